@@ -1,0 +1,8 @@
+#include "canbusmodule.h"
+
+#include "hoststate.h"
+
+QObject *CanbusModule::signalObject()
+{
+    return HostSim::canbusSignals();
+}

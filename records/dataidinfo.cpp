@@ -1,0 +1,13 @@
+#include "dataidinfo.h"
+
+DataIdInfo::DataIdInfo()
+{
+}
+
+DataIdInfo::DataIdInfo(DataIdInfo const &)
+{
+}
+
+DataIdInfo::~DataIdInfo()
+{
+}

@@ -1,0 +1,17 @@
+#!/bin/sh
+# The main job: the head-unit simulator with the plug-in's screens. With a
+# display it opens the simulator's window on the demo car; without one it
+# runs the demo tour headless, writes one PNG per step into BUILD/demo/ and
+# prints their paths.
+set -eu
+build=$(cd "${1:-build}" && pwd)
+sim="$build/simulator/headunit-sim"
+export CARCONTROL_PLUGIN_DIR="$build/plugins"
+export CARCONTROL_RESOURCE_ROOT="$build/resource/carcontrol"
+if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
+    exec "$sim"
+fi
+out="$build/demo"
+mkdir -p "$out"
+rm -f "$out"/*.png
+exec "$sim" --demo "$out"
