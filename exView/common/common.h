@@ -1,0 +1,14 @@
+#ifndef COMMON_H
+#define COMMON_H
+
+// The page toolkit: rows and their models, the row painters and the page
+// table view.
+#include "listdata.h"
+#include "listdelegate0.h"
+#include "listdelegate1.h"
+#include "listdelegate2.h"
+#include "listmodel0.h"
+#include "listmodel1.h"
+#include "tableview.h"
+
+#endif // COMMON_H

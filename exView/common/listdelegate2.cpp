@@ -1,0 +1,117 @@
+#include "listdelegate2.h"
+
+#include "listdata.h"
+
+#include <QPainter>
+
+namespace {
+
+const int TitleFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+const int ValueFlags = Qt::AlignCenter | Qt::TextWordWrap;
+
+// A font size role's pixels; none given means a third of the row.
+int pixelSize(QModelIndex const &index, int role, QRect const &rect)
+{
+    const int size = index.data(role).toInt();
+    return qMax(1, size < 1 ? rect.height() / 3 : size);
+}
+
+} // namespace
+
+int paintRowFrame(QPainter *painter, QStyleOptionViewItem const &option, QModelIndex const &index)
+{
+    const QRect &rect = option.rect;
+    const int height = rect.bottom() - rect.top() + 1;
+    const bool enabled = index.data(EnabledRole).toBool();
+    const bool selected = option.state & QStyle::State_Selected;
+
+    if (index.data(SeparatorRole).toInt() != 0) {
+        painter->setPen(QColor(100, 100, 100, 100));
+        painter->drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
+    }
+
+    int textX = index.data(TextXRole).toInt();
+    const int iconRole = !enabled ? DisabledLeftIconRole
+                                  : (selected ? SelectedLeftIconRole : LeftIconRole);
+    if (QPixmap const *icon = presentPixmap(index.data(iconRole))) {
+        const int iconX = index.data(LeftIconXRole).toInt();
+        painter->drawPixmap(rect.left() + iconX, rect.top() + (height - icon->height()) / 2, *icon);
+        textX = icon->width() + iconX + 10;
+    }
+
+    QFont font = painter->font();
+    font.setPixelSize(pixelSize(index, TitleFontSizeRole, rect));
+    painter->setFont(font);
+
+    // The list has no colour of its own for a disabled entry.
+    QColor colour = qvariant_cast<QColor>(index.data(selected ? SelectedTextColorRole : TextColorRole));
+    painter->setPen(colour.isValid() ? colour : QColor(Qt::white));
+    return textX;
+}
+
+ListDelegate2::ListDelegate2(QObject *parent)
+    : QItemDelegate(parent)
+{
+}
+
+ListDelegate2::~ListDelegate2()
+{
+}
+
+void ListDelegate2::paint(QPainter *painter, QStyleOptionViewItem const &option,
+                          QModelIndex const &index) const
+{
+    painter->save();
+
+    const QRect &rect = option.rect;
+    const int left = rect.left();
+    const int top = rect.top();
+    const int right = rect.right();
+    const int height = rect.bottom() - top + 1;
+
+    const int textX = paintRowFrame(painter, option, index);
+    const int middle = index.data(LeftButtonXRole).toInt();
+
+    painter->drawText(QRect(left + textX, top, middle - textX, height), TitleFlags,
+                      index.data(TitleRole).toString());
+
+    // The arrows fill squares of the row's height: the left one begins at
+    // the middle, the right one ends at the right edge. The views take taps
+    // in the same squares.
+    const bool adjustable = index.data(AdjustableRole).toBool();
+    if (adjustable) {
+        if (QPixmap const *arrow = presentPixmap(index.data(LeftArrowRole))) {
+            const int inset = (height - arrow->height()) / 2;
+            painter->drawPixmap(left + middle + inset, top + inset, *arrow);
+        }
+        if (QPixmap const *arrow = presentPixmap(index.data(RightArrowRole))) {
+            const int inset = (height - arrow->height()) / 2;
+            painter->drawPixmap(left + (right - height) + inset, top + inset, *arrow);
+        }
+    }
+
+    // The value's backdrop is centred in the right half.
+    int backdropWidth = 0;
+    int backdropHeight = 0;
+    if (QPixmap const *backdrop = presentPixmap(index.data(ValueBackdropRole))) {
+        backdropWidth = backdrop->width();
+        backdropHeight = backdrop->height();
+        painter->drawPixmap((right + middle - backdropWidth) / 2, top + (height - backdropHeight) / 2,
+                            *backdrop);
+    }
+
+    // The value wraps inside the backdrop; without a backdrop it is centred
+    // on that place and not clipped away.
+    const QString value = index.data(DisplayValueRole).toString();
+    if (!value.isEmpty()) {
+        QFont font = painter->font();
+        font.setPixelSize(pixelSize(index, ValueFontSizeRole, rect));
+        painter->setFont(font);
+        painter->drawText(QRect((right + middle - backdropWidth) / 2,
+                                top + (height - backdropHeight) / 2,
+                                backdropWidth, backdropHeight),
+                          backdropWidth > 0 ? ValueFlags : ValueFlags | Qt::TextDontClip, value);
+    }
+
+    painter->restore();
+}
