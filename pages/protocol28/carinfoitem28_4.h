@@ -1,0 +1,16 @@
+#ifndef CARINFOITEM28_4_H
+#define CARINFOITEM28_4_H
+
+#include "rowpage.h"
+
+class CarInfoItem28_4 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem28_4(QString const &title, QWidget *parent);
+
+    // Asks for the page's data groups, through sendData().
+    void refreshDataFromCanbus();
+};
+
+#endif // CARINFOITEM28_4_H

@@ -1,0 +1,22 @@
+#ifndef PAGES35_H
+#define PAGES35_H
+
+#include "rowpage.h"
+
+// The pages of the family of protocol 35, in the order of the stack.
+
+class CarInfoItem35_1 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem35_1(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem35_2 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem35_2(QString const &title, QWidget *parent);
+};
+
+#endif // PAGES35_H

@@ -1,0 +1,71 @@
+#ifndef PAGES64_H
+#define PAGES64_H
+
+#include "rowpage.h"
+
+// The pages of the family of protocol 64, in the order of the stack.
+
+class CarInfoItem64_1 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_1(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem64_2 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_2(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem64_3 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_3(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem64_4 : public MiddleRowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_4(QString const &title, QWidget *parent);
+};
+
+// The tyre page: its reset row opens the tyre panel.
+class CarInfoItem64_5 : public MiddleRowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_5(QString const &title, QWidget *parent);
+
+signals:
+    void TirePressure();
+
+protected:
+    void middlePressed(int row);
+};
+
+class CarInfoItem64_6 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_6(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem64_7 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_7(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem64_8 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem64_8(QString const &title, QWidget *parent);
+};
+
+#endif // PAGES64_H

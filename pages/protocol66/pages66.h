@@ -1,0 +1,19 @@
+#ifndef PAGES66_H
+#define PAGES66_H
+
+#include "rowpage.h"
+
+// The pages of the family of protocol 66, in the order of the stack.
+
+class CarInfoItem66_1 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem66_1(QString const &title, QWidget *parent);
+
+signals:
+    // Part of the page's interface; nothing listens to it.
+    void TirePressure();
+};
+
+#endif // PAGES66_H

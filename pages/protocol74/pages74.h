@@ -1,0 +1,64 @@
+#ifndef PAGES74_H
+#define PAGES74_H
+
+#include "rowpage.h"
+
+// The pages of the family of protocols 74, 75, 76, 77 and 101, in the order of the stack.
+
+class CarInfoItem74_1 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_1(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem74_2 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_2(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem74_3 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_3(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem74_4 : public MiddleRowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_4(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem74_5 : public MiddleRowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_5(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem74_6 : public MiddleRowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_6(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem74_7 : public MiddleRowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_7(QString const &title, QWidget *parent);
+};
+
+class CarInfoItem74_8 : public MiddleRowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem74_8(QString const &title, QWidget *parent);
+};
+
+#endif // PAGES74_H

@@ -1,0 +1,30 @@
+#ifndef PAGES80_H
+#define PAGES80_H
+
+#include "rowpage.h"
+
+// The pages of the family of protocol 80, in the order of the stack.
+
+class CarInfoItem80_1 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem80_1(QString const &title, QWidget *parent);
+
+signals:
+    // Part of the page's interface; nothing listens to it.
+    void TirePressure();
+};
+
+class CarInfoItem80_2 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem80_2(QString const &title, QWidget *parent);
+
+signals:
+    // Part of the page's interface; nothing listens to it.
+    void TirePressure();
+};
+
+#endif // PAGES80_H

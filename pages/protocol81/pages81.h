@@ -1,0 +1,19 @@
+#ifndef PAGES81_H
+#define PAGES81_H
+
+#include "rowpage.h"
+
+// The pages of the family of protocols 81 and 85, in the order of the stack.
+
+class CarInfoItem81_1 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem81_1(QString const &title, QWidget *parent);
+
+signals:
+    // Part of the page's interface; nothing listens to it.
+    void TirePressure();
+};
+
+#endif // PAGES81_H

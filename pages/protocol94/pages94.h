@@ -1,0 +1,15 @@
+#ifndef PAGES94_H
+#define PAGES94_H
+
+#include "rowpage.h"
+
+// The pages of the family of protocols 94 and 95, in the order of the stack.
+
+class CarInfoItem94_1 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem94_1(QString const &title, QWidget *parent);
+};
+
+#endif // PAGES94_H

@@ -1,0 +1,227 @@
+#include "row.h"
+
+#include "frames.h"
+#include "listdata.h"
+
+Row::Row(int kind, const char *title)
+    : m_kind(kind)
+    , m_title(title)
+    , m_id(-1)
+    , m_unit(0)
+    , m_factor(1.0)
+    , m_adjustable(false)
+    , m_source(NoSource)
+    , m_offset(0)
+    , m_mask(0xFF)
+    , m_shift(0)
+    , m_reader(0)
+    , m_display(0)
+    , m_clamp(StandardClamp)
+    , m_low(0)
+    , m_high(0)
+    , m_command(-1)
+    , m_sub(0)
+    , m_frame(0)
+    , m_sendMap(0)
+{
+}
+
+Row Row::of(int kind, const char *title, std::initializer_list<QVariant> options)
+{
+    Row row(kind, title);
+    for (std::initializer_list<QVariant>::const_iterator it = options.begin(); it != options.end(); ++it)
+        row.m_options.append(*it);
+    return row;
+}
+
+Row Row::of(int kind, const char *title, QList<QVariant> const &options)
+{
+    Row row(kind, title);
+    row.m_options = options;
+    return row;
+}
+
+Row Row::choice(const char *title, std::initializer_list<const char *> options)
+{
+    Row row(ChoiceKind, title);
+    for (std::initializer_list<const char *>::const_iterator it = options.begin(); it != options.end(); ++it)
+        row.m_options.append(QString::fromUtf8(*it));
+    return row;
+}
+
+Row Row::text(const char *title)
+{
+    return Row(TextKind, title);
+}
+
+Row &Row::id(int id)
+{
+    m_id = id;
+    return *this;
+}
+
+Row &Row::unit(int unit)
+{
+    m_unit = unit;
+    return *this;
+}
+
+Row &Row::factor(double factor)
+{
+    m_factor = factor;
+    return *this;
+}
+
+Row &Row::adjustable(bool adjustable)
+{
+    m_adjustable = adjustable;
+    return *this;
+}
+
+Row &Row::at(int offset, int mask, int shift)
+{
+    m_source = ByteSource;
+    m_offset = offset;
+    m_mask = mask;
+    m_shift = shift;
+    return *this;
+}
+
+Row &Row::wordAt(int offset)
+{
+    m_source = WordSource;
+    m_offset = offset;
+    return *this;
+}
+
+Row &Row::textAt(int offset)
+{
+    m_source = TextSource;
+    m_offset = offset;
+    return *this;
+}
+
+Row &Row::read(Reader reader)
+{
+    m_source = ReaderSource;
+    m_reader = reader;
+    return *this;
+}
+
+Row &Row::display(ValueMap map)
+{
+    m_display = map;
+    return *this;
+}
+
+Row &Row::clamp(Clamp rule)
+{
+    m_clamp = rule;
+    return *this;
+}
+
+Row &Row::bounds(int low, int high)
+{
+    m_clamp = OwnBounds;
+    m_low = low;
+    m_high = high;
+    return *this;
+}
+
+Row &Row::command(int command, int sub)
+{
+    m_command = command;
+    m_sub = sub;
+    return *this;
+}
+
+Row &Row::frame(FrameRule rule)
+{
+    m_frame = rule;
+    return *this;
+}
+
+Row &Row::sendAs(ValueMap map)
+{
+    m_sendMap = map;
+    return *this;
+}
+
+QVariant Row::value(DataBuffer const &buffer) const
+{
+    QVariant raw;
+    switch (m_source) {
+    case NoSource:
+        raw = m_kind == TextKind ? QVariant(QString()) : QVariant(0);
+        break;
+    case ByteSource:
+        raw = (buffer.byte(m_offset) >> m_shift) & m_mask;
+        break;
+    case WordSource:
+        raw = int(buffer.word(m_offset));
+        break;
+    case TextSource:
+        raw = buffer.text(m_offset);
+        break;
+    case ReaderSource:
+        raw = m_reader(buffer);
+        break;
+    }
+    if (m_display && m_kind != TextKind)
+        return m_display(raw.toInt());
+    return raw;
+}
+
+int Row::step(int current, bool down, QList<QVariant> const &options) const
+{
+    int value = down ? current - 1 : current + 1;
+    const int n = options.size();
+    if (m_kind == ChoiceKind && m_clamp == StandardClamp) {
+        if (value < 0)
+            value = 0;
+        if (value >= n)
+            value = n - 1;
+        return value;
+    }
+    int low = 0;
+    int high = 0;
+    switch (m_clamp) {
+    case StandardClamp:
+        if (n == 2 || n == 3) {
+            low = options.at(0).toInt();
+            high = options.at(n - 1).toInt();
+        }
+        break;
+    case WindowClamp:
+        if (n >= 4) {
+            low = options.at(2).toInt();
+            high = options.at(3).toInt();
+        }
+        break;
+    case ThirdHighestClamp:
+        if (n >= 2) {
+            low = options.at(0).toInt();
+            high = options.at(n > 2 ? 2 : 1).toInt();
+        }
+        break;
+    case OwnBounds:
+        low = m_low;
+        high = m_high;
+        break;
+    }
+    if (value < low)
+        value = low;
+    if (value > high)
+        value = high;
+    return value;
+}
+
+QByteArray Row::frameFor(int key, int value) const
+{
+    const int sent = m_sendMap ? m_sendMap(value) : value;
+    if (m_frame)
+        return m_frame(key, sent);
+    if (m_command >= 0)
+        return Frames::make2E(m_command, {m_sub, sent});
+    return QByteArray();
+}

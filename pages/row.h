@@ -1,0 +1,122 @@
+#ifndef ROW_H
+#define ROW_H
+
+#include "databuffer.h"
+#include "listdata.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QVariant>
+
+#include <initializer_list>
+
+// One row of a page, as data: what it shows, where its value lies in the
+// data buffer, and what a step on it sends. A page's table is a list of
+// rows built with the named constructors and the setters below, e.g.
+//
+//     Row::of(NumberKind, "Treble", {0, 14, 7}).at(0x06).adjustable().command(0xA8, 2)
+//
+// Texts (titles and text options) are source texts; the page translates
+// them in its own context when it builds its list.
+class Row
+{
+public:
+    // The value of a row that isn't one masked byte of the buffer.
+    typedef QVariant (*Reader)(DataBuffer const &buffer);
+    // A translation of values: raw to shown, or stepped to sent.
+    typedef int (*ValueMap)(int value);
+    // The frame that a step on the row sends: key is the row's id where the
+    // page has ids, its index otherwise; value is the stepped value after
+    // the row's send map.
+    typedef QByteArray (*FrameRule)(int key, int value);
+
+    // How a step is kept in range.
+    enum Clamp {
+        // kind 0: the options; other kinds: first to second option with two,
+        // first to third with three, else 0 to 0
+        StandardClamp,
+        // third and fourth option (time of day with four options)
+        WindowClamp,
+        // first to third option for every count above two
+        ThirdHighestClamp,
+        // the row's own bounds
+        OwnBounds
+    };
+
+    // A row of the given kind with numbers or texts as options.
+    static Row of(int kind, const char *title, std::initializer_list<QVariant> options = {});
+    static Row of(int kind, const char *title, QList<QVariant> const &options);
+    // A choice among texts (kind 0).
+    static Row choice(const char *title, std::initializer_list<const char *> options);
+    // A text (kind 10).
+    static Row text(const char *title);
+
+    Row &id(int id);
+    Row &unit(int unit);
+    Row &factor(double factor);
+    Row &adjustable(bool adjustable = true);
+
+    // Value sources. at(): (byte >> shift) & mask.
+    Row &at(int offset, int mask = 0xFF, int shift = 0);
+    Row &wordAt(int offset);
+    Row &textAt(int offset);
+    Row &read(Reader reader);
+    // The raw value is shown translated by map.
+    Row &display(ValueMap map);
+
+    // Steps.
+    Row &clamp(Clamp rule);
+    Row &bounds(int low, int high);
+    // 2E command 02 sub value: the common setting frame.
+    Row &command(int command, int sub);
+    Row &frame(FrameRule rule);
+    // The stepped value goes out translated by map.
+    Row &sendAs(ValueMap map);
+
+    // --- Read by the page engine ---
+    int kind() const { return m_kind; }
+    const char *title() const { return m_title; }
+    QList<QVariant> const &options() const { return m_options; }
+    bool hasId() const { return m_id >= 0; }
+    int rowId() const { return m_id; }
+    int unitCode() const { return m_unit; }
+    double displayFactor() const { return m_factor; }
+    bool isAdjustable() const { return m_adjustable; }
+
+    // The row's value as the buffer holds it now, after the display map.
+    QVariant value(DataBuffer const &buffer) const;
+    // The value that a step from current lands on.
+    int step(int current, bool down, QList<QVariant> const &options) const;
+    // The frame for a stepped value, or an empty array if the row sends none.
+    QByteArray frameFor(int key, int value) const;
+
+private:
+    Row(int kind, const char *title);
+
+    enum Source { NoSource, ByteSource, WordSource, TextSource, ReaderSource };
+
+    int m_kind;
+    const char *m_title;
+    QList<QVariant> m_options;
+    int m_id;
+    int m_unit;
+    double m_factor;
+    bool m_adjustable;
+
+    Source m_source;
+    int m_offset;
+    int m_mask;
+    int m_shift;
+    Reader m_reader;
+    ValueMap m_display;
+
+    Clamp m_clamp;
+    int m_low;
+    int m_high;
+    int m_command;
+    int m_sub;
+    FrameRule m_frame;
+    ValueMap m_sendMap;
+};
+
+#endif // ROW_H

@@ -1,0 +1,188 @@
+#include "rowpage.h"
+
+#include "canobj.h"
+#include "databuffer.h"
+#include "frames.h"
+#include "listdelegate2.h"
+#include "listmodel1.h"
+#include "tableview.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QStringList>
+#include <QVBoxLayout>
+
+RowPage::RowPage(QString const &title, QWidget *parent)
+    : CarInfoItem(title, parent)
+    , view(0)
+    , model(0)
+    , m_road(SendToCan)
+    , m_showsStepAtOnce(false)
+{
+}
+
+QList<Row> RowPage::rowTable() const
+{
+    return QList<Row>();
+}
+
+int RowPage::bufferId() const
+{
+    return CanObj::id();
+}
+
+DataBuffer RowPage::buffer() const
+{
+    return DataBuffer(CanObj::instance()->getDataPointerById(bufferId()));
+}
+
+Row const &RowPage::rowSpec(int row) const
+{
+    return m_rows.at(row);
+}
+
+void RowPage::createView()
+{
+    if (view) {
+        ondataChanged();
+        return;
+    }
+    initlist();
+
+    view = new TableView(this);
+    model = new ListModel1(view);
+    model->setListData(list);
+    view->setModel(model);
+    view->setItemDelegate(new ListDelegate2(this));
+    view->verticalHeader()->setDefaultSectionSize(rowHeight);
+
+    QVBoxLayout *layout = new QVBoxLayout;
+    layout->addWidget(view, 0);
+    layout->setContentsMargins(margin, 0, margin, 0);
+    setLayout(layout);
+
+    connect(model, SIGNAL(modelReset()), this, SLOT(onModelReset()));
+    connect(view, SIGNAL(itemBtClicked(QModelIndex,bool)), this, SLOT(onValueChanged(QModelIndex,bool)));
+    if (const char *slot = middleSlot())
+        connect(view, SIGNAL(itemBtMiddle(QModelIndex)), this, slot);
+}
+
+void RowPage::initlist()
+{
+    m_rows = rowTable();
+    const char *context = metaObject()->className();
+    for (int i = 0; i < m_rows.size(); ++i) {
+        Row const &row = m_rows.at(i);
+        QList<QVariant> options = row.options();
+        for (int o = 0; o < options.size(); ++o) {
+            if (options.at(o).type() == QVariant::String)
+                options[o] = QCoreApplication::translate(context, options.at(o).toString().toUtf8().constData());
+        }
+        const QString title = QCoreApplication::translate(context, row.title());
+        const QVariant value = currentValue(i);
+        if (row.hasId())
+            list.append(ListData(row.rowId(), row.kind(), title, value, options, row.isAdjustable(),
+                                 row.unitCode(), row.displayFactor()));
+        else
+            list.append(ListData(row.kind(), title, value, options, row.isAdjustable(), row.unitCode(),
+                                 row.displayFactor()));
+    }
+}
+
+QVariant RowPage::currentValue(int row) const
+{
+    return m_rows.at(row).value(buffer());
+}
+
+void RowPage::ondataChanged()
+{
+    if (!model)
+        return;
+    const int rows = qMin(model->getListData().size(), m_rows.size());
+    for (int i = 0; i < rows; ++i)
+        updateRow(i, currentValue(i));
+}
+
+void RowPage::updateRow(int row, QVariant const &value)
+{
+    ListData const &shown = model->getListData().at(row);
+    const bool same = shown.kind == TextKind ? shown.text == value.toString() : shown.value == value.toInt();
+    if (!same)
+        model->setData(model->index(row, 0), value, ValueRole);
+}
+
+void RowPage::onModelReset()
+{
+}
+
+void RowPage::onValueChanged(QModelIndex index, bool leftRight)
+{
+    const int row = index.row();
+    if (row < 0 || row >= m_rows.size())
+        return;
+    const int current = index.data(ValueRole).toInt();
+    const QList<QVariant> options = list.at(row).options;
+    const int value = m_rows.at(row).step(current, leftRight, options);
+    if (m_showsStepAtOnce)
+        model->setData(index, value, ValueRole);
+    valueStepped(row, value);
+}
+
+int RowPage::rowKey(int row) const
+{
+    return m_rows.at(row).hasId() ? list.at(row).id : row;
+}
+
+void RowPage::valueStepped(int row, int value)
+{
+    const QByteArray frame = m_rows.at(row).frameFor(rowKey(row), value);
+    if (!frame.isEmpty())
+        sendFrame(frame);
+}
+
+void RowPage::middlePressed(int)
+{
+}
+
+const char *RowPage::middleSlot() const
+{
+    return 0;
+}
+
+void RowPage::setSendRoad(SendRoad road)
+{
+    m_road = road;
+}
+
+void RowPage::setShowsStepAtOnce(bool atOnce)
+{
+    m_showsStepAtOnce = atOnce;
+}
+
+void RowPage::sendFrame(QByteArray const &frame)
+{
+    if (m_road == SendThroughSignal)
+        emit sendData(Frames::sealed(frame));
+    else
+        Frames::send(frame);
+}
+
+void MiddleRowPage::onItemBtMiddle(QModelIndex index)
+{
+    middlePressed(index.row());
+}
+
+const char *MiddleRowPage::middleSlot() const
+{
+    return SLOT(onItemBtMiddle(QModelIndex));
+}
+
+void ClickRowPage::Onclicke(QModelIndex index)
+{
+    middlePressed(index.row());
+}
+
+const char *ClickRowPage::middleSlot() const
+{
+    return SLOT(Onclicke(QModelIndex));
+}

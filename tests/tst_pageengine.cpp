@@ -1,0 +1,254 @@
+// The common page: rows built from a table over the data buffer, refreshed
+// row by row, and steps on rows that become frames to the decoder box.
+
+#include "canobj.h"
+#include "frames.h"
+#include "hostsim.h"
+#include "listmodel1.h"
+#include "rowpage.h"
+#include "tableview.h"
+
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QtTest>
+
+namespace {
+
+const int Protocol = 30;
+
+int doubled(int raw) { return raw * 2; }
+int plusTen(int value) { return value + 10; }
+QVariant speedWord(DataBuffer const &buffer) { return int(buffer.word(30)) / 10; }
+
+QByteArray odd(int key, int value)
+{
+    // A frame whose length byte doesn't match its size, as some cars want.
+    return Frames::exact({0x2E, 0xEF, 0x04, 0x7D, key, value, 0x0B});
+}
+
+QByteArray checked(QByteArray frame)
+{
+    CanObj::autoCalculateChecksum(frame);
+    return frame;
+}
+
+// A page of every sort of row, with a middle action and a refresh count.
+class EnginePage : public ClickRowPage
+{
+    Q_OBJECT
+public:
+    EnginePage(QWidget *parent) : ClickRowPage(QStringLiteral("Engine"), parent) {}
+
+    using RowPage::model;
+    using RowPage::SendRoad;
+    using RowPage::SendThroughSignal;
+    using RowPage::setSendRoad;
+    using RowPage::setShowsStepAtOnce;
+    using RowPage::view;
+
+    int middleRow = -1;
+    int refreshes = 0;
+
+    void refreshDataFromCanbus() override { ++refreshes; }
+
+protected:
+    QList<Row> rowTable() const override
+    {
+        return QList<Row>()
+            << Row::choice("Language", {"Chinese", "English", "German"}).at(10).adjustable().command(0xC6, 0x01)
+            << Row::of(TemperatureKind, "Outside", {0, 40, 194}).at(11).adjustable().command(0xC6, 0x02)
+            << Row::of(NumberKind, "Four options", {1, 2, 3, 4}).at(12).adjustable().command(0xC6, 0x03)
+            << Row::text("VIN").textAt(20)
+            << Row::of(TimeOfDayKind, "Start", {390, 30, 0, 11}).at(13).adjustable()
+                   .clamp(Row::WindowClamp).command(0xC6, 0x04)
+            << Row::of(NumberKind, "Mapped", {0, 3}).at(14, 0x0F, 4).display(doubled).adjustable()
+                   .sendAs(plusTen).command(0xC6, 0x05)
+            << Row::of(SpeedKind, "Speed", {0, 0, 250}).read(speedWord)
+            << Row::of(NumberKind, "Odd", {0, 9}).at(15).adjustable().frame(odd);
+    }
+    void middlePressed(int row) override { middleRow = row; }
+};
+
+} // namespace
+
+class TestPageEngine : public QObject
+{
+    Q_OBJECT
+
+private:
+    QWidget *window = nullptr;
+    EnginePage *page = nullptr;
+
+    QModelIndex row(int i) const { return page->model->index(i, 0); }
+    QString shown(int i) const { return row(i).data(DisplayValueRole).toString(); }
+
+    // A tap in a strip of a row, in the view's own coordinates.
+    void tap(int rowIndex, int x)
+    {
+        TableView *view = page->view;
+        const int h = view->verticalHeader()->defaultSectionSize();
+        const QPoint pos(x, view->rowViewportPosition(rowIndex) + h / 2);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, pos);
+    }
+    int leftArrowX() const { return page->view->viewport()->width() / 2 + 10; }
+    int rightArrowX() const { return page->view->viewport()->width() - 10; }
+    int middleX() const { return page->view->viewport()->width() / 2 + 81 + 20; }
+
+private slots:
+    void init()
+    {
+        HostSim::reset();
+        HostSim::setProtocolId(Protocol);
+        DataBuffer buffer = HostSim::buffer(Protocol);
+        buffer.setByte(10, 1);
+        buffer.setByte(11, 40);
+        buffer.setByte(12, 3);
+        buffer.setText(20, QStringLiteral("LSVAB4187E2000001"));
+        buffer.setByte(13, 3);
+        buffer.setByte(14, 0x25); // high nibble 2, shown doubled
+        buffer.setWord(30, 1234);
+        window = new QWidget;
+        window->resize(1024, 470);
+        page = new EnginePage(window);
+        page->setGeometry(window->rect());
+    }
+
+    void cleanup()
+    {
+        delete window;
+        window = nullptr;
+    }
+
+    void buildsOnFirstDisplayOnly()
+    {
+        // Before the first display the page has no model and ignores data.
+        page->ondataChanged();
+        QVERIFY(!page->model);
+
+        page->createView();
+        QVERIFY(page->model);
+        QCOMPARE(page->model->rowCount(QModelIndex()), 8);
+        QCOMPARE(row(0).data(TitleRole).toString(), QString("Language"));
+        QCOMPARE(shown(0), QString("English"));
+        QCOMPARE(shown(1), QString::fromUtf8("0.0℃"));
+        QCOMPARE(shown(3), QString("LSVAB4187E2000001"));
+        QCOMPARE(shown(4), QString("08:00"));
+        QCOMPARE(row(5).data(ValueRole).toInt(), 4);
+        QCOMPARE(row(6).data(ValueRole).toInt(), 123);
+        QCOMPARE(page->view->verticalHeader()->defaultSectionSize(), 81);
+
+        // A second display refreshes and doesn't rebuild.
+        TableView *view = page->view;
+        HostSim::buffer(Protocol).setByte(10, 2);
+        page->createView();
+        QCOMPARE(page->view, view);
+        QCOMPARE(page->model->rowCount(QModelIndex()), 8);
+        QCOMPARE(shown(0), QString("German"));
+    }
+
+    void refreshTouchesOnlyChangedRows()
+    {
+        page->createView();
+        QSignalSpy changes(page->model, &QAbstractItemModel::dataChanged);
+        page->ondataChanged();
+        QCOMPARE(changes.count(), 0);
+
+        DataBuffer buffer = HostSim::buffer(Protocol);
+        buffer.setByte(11, 0);
+        buffer.setText(20, QStringLiteral("VIN2"));
+        page->ondataChanged();
+        QCOMPARE(changes.count(), 2);
+        QCOMPARE(changes.at(0).at(0).toModelIndex().row(), 1);
+        QCOMPARE(changes.at(1).at(0).toModelIndex().row(), 3);
+        QCOMPARE(shown(1), QString::fromUtf8("-40.0℃"));
+        QCOMPARE(shown(3), QString("VIN2"));
+
+        // A language byte beyond the options shows nothing and breaks nothing.
+        buffer.setByte(10, 15);
+        page->ondataChanged();
+        QCOMPARE(shown(0), QString());
+    }
+
+    void stepsBecomeFrames()
+    {
+        page->createView();
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        HostSim::clearSentFrames();
+
+        tap(0, rightArrowX());        // English -> German
+        tap(0, rightArrowX());        // the row still shows English: German again
+        tap(1, leftArrowX());         // 40 -> 39
+        tap(2, rightArrowX());        // four options: both bounds 0
+        tap(4, rightArrowX());        // time window 0..11: 3 -> 4
+        tap(5, leftArrowX());         // shown 4, stepped 3, sent as 13
+        tap(7, rightArrowX());        // own frame rule
+        tap(6, rightArrowX());        // read-only: nothing
+        const QList<QByteArray> expected = {
+            checked(Frames::make2E(0xC6, {0x01, 2})),
+            checked(Frames::make2E(0xC6, {0x01, 2})),
+            checked(Frames::make2E(0xC6, {0x02, 39})),
+            checked(Frames::make2E(0xC6, {0x03, 0})),
+            checked(Frames::make2E(0xC6, {0x04, 4})),
+            checked(Frames::make2E(0xC6, {0x05, 13})),
+            checked(Frames::exact({0x2E, 0xEF, 0x04, 0x7D, 7, 1, 0x0B})),
+        };
+        QCOMPARE(HostSim::sentFrames(), expected);
+        // The rows wait for the car's answer.
+        QCOMPARE(shown(0), QString("English"));
+    }
+
+    void clampNeverSuppressesTheFrame()
+    {
+        DataBuffer buffer = HostSim::buffer(Protocol);
+        buffer.setByte(10, 2);  // last option
+        buffer.setByte(11, 0);  // lowest temperature
+        buffer.setByte(13, 11); // last step of the time window
+        page->createView();
+        HostSim::clearSentFrames();
+        page->onValueChanged(row(0), false);
+        page->onValueChanged(row(1), true);
+        page->onValueChanged(row(4), false);
+        const QList<QByteArray> expected = {
+            checked(Frames::make2E(0xC6, {0x01, 2})),
+            checked(Frames::make2E(0xC6, {0x02, 0})),
+            checked(Frames::make2E(0xC6, {0x04, 11})),
+        };
+        QCOMPARE(HostSim::sentFrames(), expected);
+    }
+
+    void sendRoadAndImmediateStep()
+    {
+        page->setSendRoad(EnginePage::SendThroughSignal);
+        page->setShowsStepAtOnce(true);
+        page->createView();
+        HostSim::clearSentFrames();
+        QSignalSpy sent(page, &CarInfoItem::sendData);
+        page->onValueChanged(row(1), false);
+        QCOMPARE(sent.count(), 1);
+        QCOMPARE(sent.at(0).at(0).toByteArray(), checked(Frames::make2E(0xC6, {0x02, 41})));
+        QVERIFY(HostSim::sentFrames().isEmpty());
+        QCOMPARE(row(1).data(ValueRole).toInt(), 41);
+    }
+
+    void middleStripAndRefresh()
+    {
+        page->createView();
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+        tap(6, middleX());
+        QCOMPARE(page->middleRow, 6);
+
+        // Each call asks once, 100 ms later; a deleted page is asked nothing.
+        page->refreshLater();
+        page->refreshLater();
+        QTRY_COMPARE(page->refreshes, 2);
+        page->refreshLater();
+        delete page;
+        page = nullptr;
+        QTest::qWait(150);
+    }
+};
+
+QTEST_MAIN(TestPageEngine)
+#include "tst_pageengine.moc"
