@@ -1,0 +1,286 @@
+// headunit-sim: a car head unit on the desktop. It loads the car control
+// plug-in as the head unit's framework does, plays the car and the decoder
+// box, shows the head unit's screen and every frame the plug-in sends, and
+// runs scenarios: scripted end-to-end tests of the plug-in.
+
+#include "demo.h"
+#include "mainwindow.h"
+#include "scenario.h"
+#include "simulatorhost.h"
+
+#include "hostsim.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+// Exit status when the simulator can't start: bad options, no plug-in, an
+// unreadable scenario. Scenarios themselves end with 0, 1 or 2.
+constexpr int StartFailed = 3;
+
+char const Usage[] =
+    "usage: headunit-sim [options]\n"
+    "\n"
+    "Without options: the head unit's screen and the control panel in a window,\n"
+    "on protocol 28 with demo data.\n"
+    "\n"
+    "  --script FILE       run a scenario (- reads standard input); headless\n"
+    "                      unless --window is given. Exit status: 0 all lines ran,\n"
+    "                      1 an expectation failed, 2 a malformed line\n"
+    "  --window            show the window, also while a scenario runs\n"
+    "  --screenshot FILE   save the head unit's screen as PNG at the end\n"
+    "  --window-screenshot FILE  show the window, run the scenario if one is\n"
+    "                      given, save the whole window as PNG and quit\n"
+    "  --demo DIR          run the demo tour headless, one PNG per step into DIR\n"
+    "  --protocol N        start the window on protocol N (default 28)\n"
+    "  --plugin FILE       the car control plug-in (default:\n"
+    "                      $CARCONTROL_PLUGIN_DIR/libcarcontrol.so)\n"
+    "  --reverse-plugin FILE  the reverse plug-in (default: libreversesample.so\n"
+    "                      beside the car control plug-in)\n"
+    "  --platform NAME     Qt platform plug-in, e.g. offscreen\n"
+    "  --verbose           print the plug-in's debug lines and each scenario line\n"
+    "  --help              this text\n";
+
+struct Options
+{
+    QString script;
+    QString screenshot;
+    QString windowScreenshot;
+    QString demoDirectory;
+    QString plugin;
+    QString reversePlugin;
+    QString platform;
+    int protocol = Demo::ProtocolId;
+    bool window = false;
+    bool verbose = false;
+    bool help = false;
+};
+
+bool parseOptions(int argc, char **argv, Options *options, QString *error)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QString arg = QString::fromLocal8Bit(argv[i]);
+        auto value = [&](QString *out) {
+            if (i + 1 >= argc) {
+                *error = QStringLiteral("%1 needs a value").arg(arg);
+                return false;
+            }
+            *out = QString::fromLocal8Bit(argv[++i]);
+            return true;
+        };
+        if (arg == QLatin1String("--script")) {
+            if (!value(&options->script))
+                return false;
+        } else if (arg == QLatin1String("--screenshot")) {
+            if (!value(&options->screenshot))
+                return false;
+        } else if (arg == QLatin1String("--window-screenshot")) {
+            if (!value(&options->windowScreenshot))
+                return false;
+            options->window = true;
+        } else if (arg == QLatin1String("--demo")) {
+            if (!value(&options->demoDirectory))
+                return false;
+        } else if (arg == QLatin1String("--plugin")) {
+            if (!value(&options->plugin))
+                return false;
+        } else if (arg == QLatin1String("--reverse-plugin")) {
+            if (!value(&options->reversePlugin))
+                return false;
+        } else if (arg == QLatin1String("--platform") || arg == QLatin1String("-platform")) {
+            if (!value(&options->platform))
+                return false;
+        } else if (arg == QLatin1String("--protocol")) {
+            QString text;
+            bool ok = false;
+            if (!value(&text))
+                return false;
+            options->protocol = text.toInt(&ok, 0);
+            if (!ok) {
+                *error = QStringLiteral("--protocol %1 is not a number").arg(text);
+                return false;
+            }
+        } else if (arg == QLatin1String("--window")) {
+            options->window = true;
+        } else if (arg == QLatin1String("--verbose")) {
+            options->verbose = true;
+        } else if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
+            options->help = true;
+        } else {
+            *error = QStringLiteral("unknown option %1").arg(arg);
+            return false;
+        }
+    }
+    if (!options->demoDirectory.isEmpty() && (!options->script.isEmpty() || options->window)) {
+        *error = QStringLiteral("--demo runs on its own, without --script or --window");
+        return false;
+    }
+    return true;
+}
+
+// The build's plug-in directory and artwork serve when the environment
+// names none, so that the simulator runs from the build tree as it is.
+void setDefaultEnvironment()
+{
+    if (qEnvironmentVariableIsEmpty("CARCONTROL_PLUGIN_DIR") && QFileInfo::exists(QStringLiteral(SIMULATOR_PLUGIN_DIR)))
+        qputenv("CARCONTROL_PLUGIN_DIR", SIMULATOR_PLUGIN_DIR);
+    if (qEnvironmentVariableIsEmpty("CARCONTROL_RESOURCE_ROOT") && QFileInfo::exists(QStringLiteral(SIMULATOR_RESOURCE_ROOT)))
+        qputenv("CARCONTROL_RESOURCE_ROOT", SIMULATOR_RESOURCE_ROOT);
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+void printError(QString const &text)
+{
+    std::fprintf(stderr, "headunit-sim: %s\n", qPrintable(text));
+}
+
+bool saveScreenshot(SimulatorHost &host, QString const &file)
+{
+    Scenario::Runner runner(host);
+    QString failure;
+    Scenario::Command command;
+    command.kind = Scenario::Kind::Screenshot;
+    command.texts << file;
+    if (!runner.execute(command, &failure)) {
+        printError(failure);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    Options options;
+    QString error;
+    if (!parseOptions(argc, argv, &options, &error)) {
+        printError(error);
+        std::fputs(Usage, stderr);
+        return StartFailed;
+    }
+    if (options.help) {
+        std::fputs(Usage, stdout);
+        return 0;
+    }
+
+    const bool headless = !options.window
+            && (!options.script.isEmpty() || !options.demoDirectory.isEmpty() || !options.screenshot.isEmpty());
+    if (!options.platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", options.platform.toLocal8Bit());
+    else if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!headless && !hasDisplay() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        printError(QStringLiteral("no display for the window; use --demo DIR, --script FILE or --platform offscreen"));
+        return StartFailed;
+    }
+    setDefaultEnvironment();
+    // Headless runs may have no runtime directory; a private one
+    // keeps Qt from warning about it.
+    std::unique_ptr<QTemporaryDir> runtime;
+    if (headless && qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        runtime.reset(new QTemporaryDir);
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime->path()));
+    }
+
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("headunit-sim"));
+    SimulatorHost::captureMessages(options.verbose || !headless);
+
+    // Headless runs keep the head unit's settings to themselves, so that
+    // runs side by side don't see each other's.
+    std::unique_ptr<QTemporaryDir> storage;
+    if (headless && qEnvironmentVariableIsEmpty("CARCONTROL_STORAGE_DIR")) {
+        storage.reset(new QTemporaryDir);
+        HostSim::setStorageDirectory(storage->path());
+    }
+
+    SimulatorHost host;
+    const QString plugin = options.plugin.isEmpty() ? SimulatorHost::defaultPluginFile() : options.plugin;
+    const QString reversePlugin = options.reversePlugin.isEmpty()
+            ? SimulatorHost::defaultReversePluginFile(plugin) : options.reversePlugin;
+    if (QFileInfo::exists(reversePlugin))
+        HostSim::setReversePluginFile(reversePlugin);
+    else if (!options.reversePlugin.isEmpty())
+        printError(QStringLiteral("%1: no such reverse plug-in; reversing shows no picture").arg(reversePlugin));
+    if (!host.load(plugin, &error)) {
+        printError(error);
+        return StartFailed;
+    }
+
+    if (!options.demoDirectory.isEmpty()) {
+        HostSim::screen()->show();
+        const Scenario::Result result = Demo::runTour(host, options.demoDirectory);
+        for (QString const &png : result.screenshots)
+            std::printf("%s\n", qPrintable(png));
+        if (result.status != Scenario::Passed)
+            printError(result.message);
+        return result.status;
+    }
+
+    Scenario::Script script;
+    if (!options.script.isEmpty()) {
+        QString name, source;
+        if (!Scenario::read(options.script, &name, &source, &error)) {
+            printError(error);
+            return StartFailed;
+        }
+        if (!Scenario::parse(name, source, &script, &error)) {
+            std::fprintf(stderr, "%s\n", qPrintable(error));
+            return Scenario::Malformed;
+        }
+    }
+
+    if (headless) {
+        HostSim::screen()->show();
+        SimulatorHost::settle();
+        int status = Scenario::Passed;
+        if (options.script.isEmpty()) {
+            Demo::loadData(host);
+        } else {
+            Scenario::Runner runner(host);
+            runner.setTrace(options.verbose);
+            const Scenario::Result result = runner.run(script);
+            if (result.status != Scenario::Passed)
+                std::fprintf(stderr, "%s\n", qPrintable(result.message));
+            status = result.status;
+        }
+        if (!options.screenshot.isEmpty() && !saveScreenshot(host, options.screenshot) && status == Scenario::Passed)
+            status = Scenario::Failed;
+        return status;
+    }
+
+    MainWindow window(host);
+    if (options.script.isEmpty())
+        window.startDemoCar(options.protocol);
+    window.show();
+    int status = Scenario::Passed;
+    QTimer::singleShot(0, &window, [&] {
+        if (!options.script.isEmpty())
+            status = window.runScenario(script);
+        if (!options.windowScreenshot.isEmpty()) {
+            if (!window.grab().save(options.windowScreenshot, "PNG")) {
+                printError(QStringLiteral("%1: can't write the picture").arg(options.windowScreenshot));
+                status = Scenario::Failed;
+            }
+            window.close();
+        }
+    });
+    const int appStatus = app.exec();
+    if (!options.screenshot.isEmpty())
+        saveScreenshot(host, options.screenshot);
+    host.unload();
+    return options.script.isEmpty() ? appStatus : status;
+}

@@ -1,0 +1,349 @@
+#include "panels.h"
+
+#include "airdata.h"
+#include "carbodydata.h"
+#include "cardoordata.h"
+#include "hostsim.h"
+#include "radardata.h"
+#include "simulatorhost.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace {
+
+// A climate function byte: below 0 the car lacks it.
+constexpr int Absent = -1;
+
+QPushButton *button(QString const &text, QWidget *parent)
+{
+    auto *b = new QPushButton(text, parent);
+    b->setFocusPolicy(Qt::NoFocus);
+    return b;
+}
+
+} // namespace
+
+// --- Climate ------------------------------------------------------------------
+
+ClimateEditor::ClimateEditor(SimulatorHost &host, QWidget *parent)
+    : QWidget(parent)
+    , m_host(host)
+{
+    auto *layout = new QVBoxLayout(this);
+
+    auto *record = new QGroupBox(tr("Record"), this);
+    auto *recordForm = new QFormLayout(record);
+    m_hasClimate = new QCheckBox(tr("the car has a climate (byte 4)"), record);
+    m_showRequest = new QCheckBox(tr("show the overlay (byte 5)"), record);
+    m_type = new QSpinBox(record);
+    m_type->setRange(-1000, 1000);
+    recordForm->addRow(m_hasClimate);
+    recordForm->addRow(m_showRequest);
+    recordForm->addRow(tr("Panel type (0)"), m_type);
+    layout->addWidget(record);
+
+    auto *functions = new QGroupBox(tr("Functions"), this);
+    auto *grid = new QGridLayout(functions);
+    const QList<QPair<int, QString> > named = {
+        {AirData::ClimateSwitch, tr("Power")}, {AirData::Ac, tr("AC")},
+        {AirData::Auto, tr("Auto")}, {AirData::Dual, tr("Dual")},
+        {AirData::InnerLoop, tr("Inner loop")}, {AirData::Heat, tr("Heat")},
+        {AirData::FrontDefrost, tr("Front defrost")}, {AirData::RearDefrost, tr("Rear defrost")},
+        {AirData::LeftWindUp, tr("Left: up")}, {AirData::RightWindUp, tr("Right: up")},
+        {AirData::LeftWindFront, tr("Left: front")}, {AirData::RightWindFront, tr("Right: front")},
+        {AirData::LeftWindDown, tr("Left: down")}, {AirData::RightWindDown, tr("Right: down")},
+    };
+    for (int i = 0; i < named.size(); ++i) {
+        grid->addWidget(new QLabel(named.at(i).second, functions), i / 2, (i % 2) * 2);
+        grid->addWidget(function(named.at(i).first), i / 2, (i % 2) * 2 + 1);
+    }
+    layout->addWidget(functions);
+
+    auto *temperatures = new QGroupBox(tr("Temperatures and fans"), this);
+    auto *form = new QGridLayout(temperatures);
+    m_leftTemperature = new QLineEdit(temperatures);
+    m_rightTemperature = new QLineEdit(temperatures);
+    m_leftUnit = unit();
+    m_rightUnit = unit();
+    m_leftFan = new QSpinBox(temperatures);
+    m_rightFan = new QSpinBox(temperatures);
+    for (QSpinBox *fan : {m_leftFan, m_rightFan}) {
+        fan->setRange(Absent, 127);
+        fan->setSpecialValueText(tr("none"));
+    }
+    m_outside = new QLineEdit(temperatures);
+    form->addWidget(new QLabel(tr("Left (16, 13)"), temperatures), 0, 0);
+    form->addWidget(m_leftTemperature, 0, 1);
+    form->addWidget(m_leftUnit, 0, 2);
+    form->addWidget(new QLabel(tr("Right (20, 14)"), temperatures), 1, 0);
+    form->addWidget(m_rightTemperature, 1, 1);
+    form->addWidget(m_rightUnit, 1, 2);
+    form->addWidget(new QLabel(tr("Fan left, right (75, 80)"), temperatures), 2, 0);
+    form->addWidget(m_leftFan, 2, 1);
+    form->addWidget(m_rightFan, 2, 2);
+    form->addWidget(new QLabel(tr("Outside (44)"), temperatures), 3, 0);
+    form->addWidget(m_outside, 3, 1, 1, 2);
+    layout->addWidget(temperatures);
+
+    auto *seats = new QGroupBox(tr("Seat heating"), this);
+    auto *seatRow = new QHBoxLayout(seats);
+    m_hasSeatHeating = new QCheckBox(tr("fitted (89)"), seats);
+    m_leftSeat = new QSpinBox(seats);
+    m_rightSeat = new QSpinBox(seats);
+    for (QSpinBox *seat : {m_leftSeat, m_rightSeat})
+        seat->setRange(-3, 3);
+    seatRow->addWidget(m_hasSeatHeating);
+    seatRow->addWidget(new QLabel(tr("left"), seats));
+    seatRow->addWidget(m_leftSeat);
+    seatRow->addWidget(new QLabel(tr("right"), seats));
+    seatRow->addWidget(m_rightSeat);
+    layout->addWidget(seats);
+
+    auto *actions = new QHBoxLayout;
+    QPushButton *sendButton = button(tr("Send record"), this);
+    sendButton->setToolTip(tr("Write the record and call onAirConditionerDataChanged()"));
+    QPushButton *showButton = button(tr("Show climate"), this);
+    showButton->setToolTip(tr("setOtherProperty(\"ShowAirconditioner\", true)"));
+    QPushButton *hideButton = button(tr("Hide"), this);
+    hideButton->setToolTip(tr("onAirConditionerVisibleChanged(false)"));
+    QPushButton *reloadButton = button(tr("Reload"), this);
+    reloadButton->setToolTip(tr("Show the host's record as it is now"));
+    actions->addWidget(sendButton);
+    actions->addWidget(showButton);
+    actions->addWidget(hideButton);
+    actions->addWidget(reloadButton);
+    layout->addLayout(actions);
+    layout->addStretch(1);
+
+    connect(sendButton, &QPushButton::clicked, this, &ClimateEditor::send);
+    connect(showButton, &QPushButton::clicked, this, [this] {
+        store();
+        m_host.call(QStringLiteral("setOtherProperty"), {QStringLiteral("ShowAirconditioner"), true});
+    });
+    connect(hideButton, &QPushButton::clicked, this, [this] {
+        m_host.call(QStringLiteral("onAirConditionerVisibleChanged"), {false});
+    });
+    connect(reloadButton, &QPushButton::clicked, this, &ClimateEditor::load);
+    load();
+}
+
+QComboBox *ClimateEditor::function(int byte)
+{
+    auto *box = new QComboBox(this);
+    box->addItem(tr("absent"), Absent);
+    box->addItem(tr("off"), 0);
+    box->addItem(tr("on"), 1);
+    box->setToolTip(tr("byte %1").arg(byte));
+    m_functions.append(qMakePair(byte, box));
+    return box;
+}
+
+QComboBox *ClimateEditor::unit()
+{
+    auto *box = new QComboBox(this);
+    box->addItem(QStringLiteral("\u2103"), 0);
+    box->addItem(QStringLiteral("\u2109"), 1);
+    box->addItem(tr("no unit"), -1);
+    return box;
+}
+
+void ClimateEditor::load()
+{
+    AirData const &air = *HostSim::airData();
+    m_hasClimate->setChecked(air.hasAirConditioner);
+    m_showRequest->setChecked(air.showRequest != 0);
+    m_type->setValue(air.airType);
+    for (auto const &entry : qAsConst(m_functions)) {
+        const int value = air.function(entry.first);
+        const int index = entry.second->findData(value < 0 ? Absent : value > 0 ? 1 : 0);
+        entry.second->setCurrentIndex(index);
+    }
+    m_leftTemperature->setText(air.leftTemperature);
+    m_rightTemperature->setText(air.rightTemperature);
+    m_leftUnit->setCurrentIndex(qMax(0, m_leftUnit->findData(int(air.leftTemperatureUnit))));
+    m_rightUnit->setCurrentIndex(qMax(0, m_rightUnit->findData(int(air.rightTemperatureUnit))));
+    m_leftFan->setValue(air.function(AirData::LeftWindSpeed));
+    m_rightFan->setValue(air.function(AirData::RightWindSpeed));
+    m_outside->setText(air.outsideTemperature);
+    m_hasSeatHeating->setChecked(air.seatHeating.hasSeatHeating != 0);
+    m_leftSeat->setValue(air.seatHeating.leftSeat);
+    m_rightSeat->setValue(air.seatHeating.rightSeat);
+}
+
+void ClimateEditor::store()
+{
+    AirData &air = *HostSim::airData();
+    air.hasAirConditioner = m_hasClimate->isChecked();
+    air.showRequest = m_showRequest->isChecked() ? 1 : 0;
+    air.airType = m_type->value();
+    for (auto const &entry : qAsConst(m_functions))
+        air.setFunction(entry.first, qint8(entry.second->currentData().toInt()));
+    air.leftTemperature = m_leftTemperature->text();
+    air.rightTemperature = m_rightTemperature->text();
+    air.leftTemperatureUnit = qint8(m_leftUnit->currentData().toInt());
+    air.rightTemperatureUnit = qint8(m_rightUnit->currentData().toInt());
+    air.setFunction(AirData::LeftWindSpeed, qint8(m_leftFan->value()));
+    air.setFunction(AirData::RightWindSpeed, qint8(m_rightFan->value()));
+    air.outsideTemperature = m_outside->text();
+    air.seatHeating.hasSeatHeating = m_hasSeatHeating->isChecked() ? 1 : 0;
+    air.seatHeating.leftSeat = qint8(m_leftSeat->value());
+    air.seatHeating.rightSeat = qint8(m_rightSeat->value());
+}
+
+void ClimateEditor::send()
+{
+    store();
+    m_host.call(QStringLiteral("onAirConditionerDataChanged"));
+}
+
+// --- Body -------------------------------------------------------------------------
+
+BodyPanel::BodyPanel(SimulatorHost &host, QWidget *parent)
+    : QWidget(parent)
+    , m_host(host)
+{
+    auto *layout = new QVBoxLayout(this);
+
+    auto *doors = new QGroupBox(tr("Doors (onCardoorDataChanged)"), this);
+    auto *doorGrid = new QGridLayout(doors);
+    const QStringList doorNames = {tr("Front left door"), tr("Front right door"), tr("Rear left door"),
+                                   tr("Rear right door"), tr("Trunk"), tr("Hood")};
+    for (int i = 0; i < doorNames.size(); ++i) {
+        auto *box = new QCheckBox(doorNames.at(i), doors);
+        box->setChecked(reinterpret_cast<quint8 const *>(HostSim::cardoorData())[i] != 0);
+        doorGrid->addWidget(box, i / 2, i % 2);
+        connect(box, &QCheckBox::toggled, this, [this, i](bool open) {
+            reinterpret_cast<quint8 *>(HostSim::cardoorData())[i] = open ? 1 : 0;
+            m_host.call(QStringLiteral("onCardoorDataChanged"));
+        });
+    }
+    layout->addWidget(doors);
+
+    auto *body = new QGroupBox(tr("Body warnings (onCarbodyDataChanged)"), this);
+    auto *bodyLayout = new QVBoxLayout(body);
+    const QList<QPair<int, QString> > warnings = {
+        {40, tr("Seat belt unfastened (byte 40)")},
+        {41, tr("Automatic parking fault (byte 41)")},
+        {34, tr("Condensate fault (byte 34)")},
+    };
+    for (auto const &warning : warnings) {
+        const int offset = warning.first;
+        auto *box = new QCheckBox(warning.second, body);
+        box->setChecked(reinterpret_cast<qint8 const *>(HostSim::carbodyData())[offset] == 1);
+        bodyLayout->addWidget(box);
+        connect(box, &QCheckBox::toggled, this, [this, offset](bool on) {
+            reinterpret_cast<qint8 *>(HostSim::carbodyData())[offset] = on ? 1 : 0;
+            m_host.call(QStringLiteral("onCarbodyDataChanged"));
+        });
+    }
+    layout->addWidget(body);
+    layout->addStretch(1);
+}
+
+// --- Reverse ---------------------------------------------------------------------
+
+ReversePanel::ReversePanel(SimulatorHost &host, QWidget *parent)
+    : QWidget(parent)
+    , m_host(host)
+{
+    auto *layout = new QVBoxLayout(this);
+
+    auto *gear = new QGroupBox(tr("Reverse gear"), this);
+    auto *gearLayout = new QVBoxLayout(gear);
+    auto *reverse = new QCheckBox(tr("In reverse (setReverse)"), gear);
+    auto *signal = new QCheckBox(tr("Camera signal (setReverseSignalState)"), gear);
+    auto *disableRadar = new QCheckBox(tr("Radar display off (host)"), gear);
+    gearLayout->addWidget(reverse);
+    gearLayout->addWidget(signal);
+    gearLayout->addWidget(disableRadar);
+    layout->addWidget(gear);
+    connect(reverse, &QCheckBox::toggled, this, [this](bool on) {
+        m_host.call(QStringLiteral("setReverse"), {on});
+    });
+    connect(signal, &QCheckBox::toggled, this, [this](bool on) {
+        m_host.call(QStringLiteral("setReverseSignalState"), {on});
+    });
+    connect(disableRadar, &QCheckBox::toggled, this, [](bool on) { HostSim::setDisableRadar(on); });
+
+    auto *line = new QGroupBox(tr("Guide line (onTrajectoryDataChanged)"), this);
+    auto *lineForm = new QFormLayout(line);
+    m_lineValue = new QSlider(Qt::Horizontal, line);
+    m_lineValue->setRange(-100, 100);
+    m_lineRange = new QSpinBox(line);
+    m_lineRange->setRange(0, 1000);
+    m_lineRange->setValue(100);
+    m_lineVisible = new QCheckBox(tr("visible"), line);
+    m_lineVisible->setChecked(true);
+    auto *carHasLine = new QCheckBox(tr("the car reports a guide line (host)"), line);
+    auto *userWantsLine = new QCheckBox(tr("the user wants the guide line (host)"), line);
+    carHasLine->setChecked(true);
+    userWantsLine->setChecked(true);
+    lineForm->addRow(tr("Value"), m_lineValue);
+    lineForm->addRow(tr("Range"), m_lineRange);
+    lineForm->addRow(m_lineVisible);
+    lineForm->addRow(carHasLine);
+    lineForm->addRow(userWantsLine);
+    layout->addWidget(line);
+    connect(m_lineValue, &QSlider::valueChanged, this, &ReversePanel::sendGuideLine);
+    connect(m_lineRange, QOverload<int>::of(&QSpinBox::valueChanged), this, &ReversePanel::sendGuideLine);
+    connect(m_lineVisible, &QCheckBox::toggled, this, &ReversePanel::sendGuideLine);
+    connect(carHasLine, &QCheckBox::toggled, this, [](bool on) { HostSim::setHadReverseLine(on); });
+    connect(userWantsLine, &QCheckBox::toggled, this, [](bool on) { HostSim::setShowReverseLine(on); });
+
+    auto *radar = new QGroupBox(tr("Radar distances (onRadarDataChanged)"), this);
+    auto *radarGrid = new QGridLayout(radar);
+    m_scale = new QSpinBox(radar);
+    m_scale->setRange(0, 255);
+    m_scale->setValue(HostSim::radarData()->scale);
+    radarGrid->addWidget(new QLabel(tr("Scale (byte 1)"), radar), 0, 0);
+    radarGrid->addWidget(m_scale, 0, 1);
+    const QStringList sensors = {tr("Rear, left"), tr("Rear, left middle"), tr("Rear, right middle"),
+                                 tr("Rear, right"), tr("Front, left"), tr("Front, left middle"),
+                                 tr("Front, right middle"), tr("Front, right")};
+    for (int i = 0; i < sensors.size(); ++i) {
+        auto *distance = new QSpinBox(radar);
+        distance->setRange(0, 255);
+        distance->setValue(HostSim::radarData()->distances[i]);
+        m_distances.append(distance);
+        radarGrid->addWidget(new QLabel(sensors.at(i), radar), 1 + i % 4, (i / 4) * 2);
+        radarGrid->addWidget(distance, 1 + i % 4, (i / 4) * 2 + 1);
+        connect(distance, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { sendRadar(false); });
+    }
+    connect(m_scale, QOverload<int>::of(&QSpinBox::valueChanged), this, [this] { sendRadar(false); });
+    QPushButton *asVariant = button(tr("Send as a variant"), radar);
+    asVariant->setToolTip(tr("onRadarDataChanged(QVariant) with the record"));
+    connect(asVariant, &QPushButton::clicked, this, [this] { sendRadar(true); });
+    radarGrid->addWidget(asVariant, 5, 0, 1, 4);
+    layout->addWidget(radar);
+    layout->addStretch(1);
+}
+
+void ReversePanel::sendRadar(bool asVariant)
+{
+    RadarData &radar = *HostSim::radarData();
+    radar.valid = 1;
+    radar.scale = quint8(m_scale->value());
+    for (int i = 0; i < m_distances.size(); ++i)
+        radar.distances[i] = quint8(m_distances.at(i)->value());
+    if (asVariant)
+        m_host.call(QStringLiteral("onRadarDataChanged"), {QVariant::fromValue(radar)});
+    else
+        m_host.call(QStringLiteral("onRadarDataChanged"));
+}
+
+void ReversePanel::sendGuideLine()
+{
+    m_host.call(QStringLiteral("onTrajectoryDataChanged"),
+                {m_lineValue->value(), m_lineRange->value(), m_lineVisible->isChecked()});
+}

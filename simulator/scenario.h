@@ -1,0 +1,150 @@
+#ifndef SCENARIO_H
+#define SCENARIO_H
+
+// The scenario language of the head-unit simulator: one command per line,
+// which sets the vehicle's state, calls the plug-in's root, gives the user's
+// input as real events, or checks what the plug-in did. A whole scenario is
+// parsed first, so that a malformed line stops it before anything ran; then
+// it runs line by line, each line ending with the pending events delivered.
+// README.md holds the reference of the commands.
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+class SimulatorHost;
+
+namespace Scenario {
+
+// One word of a line, and whether it was written in double quotes.
+struct Token
+{
+    QString text;
+    bool quoted = false;
+};
+
+// Splits a line into tokens: separated by spaces or tabs; a token in double
+// quotes may hold spaces, with \" and \\ as escapes; # outside quotes starts
+// a comment. False, with the reason in *error, for an unterminated quote,
+// an unknown escape or text glued to a closing quote.
+bool tokenize(QString const &line, QList<Token> *tokens, QString *error);
+
+// A number: decimal or 0x hex, with an optional minus. Quoted tokens are
+// texts, not numbers.
+bool parseNumber(Token const &token, qint64 *value);
+
+enum class Kind {
+    // Vehicle state.
+    Protocol, Buf, Buf16, Buf32, Text, Bytes, Entries,
+    Air, AirText, AirType, Door, Body, Body16, Body32, Radar,
+    Host, Setting, Wallpaper,
+    // Signals and calls.
+    Notify, Call,
+    // User input.
+    Key, TapTitle, TapRow, TapBar, TapButton, TapObject, TapAt, LongPress, Wait,
+    // Expectations.
+    ExpectFrame, ExpectFrames, ExpectNoFrame, DropFrames,
+    ExpectRow, ExpectRowValue, ExpectRowTitle, ExpectRows, ExpectPage,
+    ExpectTitles, ExpectTitle, ExpectShown, ExpectHidden,
+    ExpectMessage, ExpectNoMessage, ExpectCommand, ExpectSaved,
+    ExpectLabel, ExpectDown, ExpectExists, ExpectMissing, ExpectVisibleText, ExpectLog,
+    Screenshot
+};
+
+// The value of id for the data buffer of the current protocol.
+constexpr int CurrentProtocol = -1;
+
+// One parsed line. Which members carry what depends on the kind:
+//  - id, offset: the data buffer and the offset of the buffer and record
+//    commands;
+//  - numbers: the values (bytes, words, the number of a row or title, a key
+//    code, milliseconds, a point);
+//  - texts: quoted texts, and the names of entries;
+//  - name: the operation of call, a host flag, a setting key, an
+//    objectName, a view name, a zone, a bar button;
+//  - args: the arguments of call, and a setting's value;
+//  - frame: the bytes of expect frame, -1 for ??.
+struct Command
+{
+    Kind kind = Kind::Notify;
+    int line = 0;
+    QString source;
+    int id = CurrentProtocol;
+    int offset = 0;
+    QList<qint64> numbers;
+    QStringList texts;
+    QString name;
+    QVariantList args;
+    QList<int> frame;
+};
+
+// Parses one line. An empty or comment line gives no command: true, with
+// *isCommand false. A malformed line: false, with the reason in *error.
+bool parseLine(QString const &text, Command *command, bool *isCommand, QString *error);
+
+struct Script
+{
+    QString file;
+    QList<Command> commands;
+};
+
+// Parses a whole scenario. False at the first malformed line, with
+// "FILE:LINE: malformed line "...": reason" in *error.
+bool parse(QString const &file, QString const &source, Script *script, QString *error);
+// Reads a scenario file, or standard input for "-". *name is what
+// messages call it ("<stdin>" for standard input). False, with the reason in
+// *error, when it can't be read.
+bool read(QString const &file, QString *name, QString *source, QString *error);
+
+// The texts that the language uses for frames: "2E 90 02 51 00 8E".
+QString hex(QByteArray const &bytes);
+
+// The exit status of a scenario run.
+enum Status { Passed = 0, Failed = 1, Malformed = 2 };
+
+struct Result
+{
+    Status status = Passed;
+    // For a failure: "FILE:LINE: expected ... got ...".
+    QString message;
+    // The files that screenshot wrote, in order.
+    QStringList screenshots;
+};
+
+class Runner
+{
+public:
+    explicit Runner(SimulatorHost &host);
+
+    // Where screenshot puts a file given by a relative path; the working
+    // directory unless set.
+    void setOutputDirectory(QString const &directory);
+    // Print each line before it runs.
+    void setTrace(bool trace);
+
+    // Runs the commands in order, up to the first failure.
+    Result run(Script const &script);
+    // Runs one command and delivers the pending events. False, with
+    // "expected ... got ..." in *failure, when it didn't hold.
+    bool execute(Command const &command, QString *failure);
+    // The files that screenshot wrote so far.
+    QStringList screenshots() const;
+
+private:
+    bool setVehicleState(Command const &command, QString *failure);
+    bool giveInput(Command const &command, QString *failure);
+    bool check(Command const &command, QString *failure);
+    bool checkPage(Command const &command, QString *failure);
+    bool checkScreen(Command const &command, QString *failure);
+    bool takeScreenshot(QString const &file, QString *failure);
+
+    SimulatorHost &m_host;
+    QString m_outputDirectory;
+    bool m_trace = false;
+    QStringList m_screenshots;
+};
+
+} // namespace Scenario
+
+#endif // SCENARIO_H
