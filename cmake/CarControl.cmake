@@ -22,10 +22,10 @@ endfunction()
 
 # Every test runs headless, with the artwork that the build draws.
 function(carcontrol_add_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;ARGS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE Qt5::Test ${ARG_LIBRARIES})
-    add_test(NAME ${name} COMMAND ${name})
+    add_test(NAME ${name} COMMAND ${name} ${ARG_ARGS})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT
         "QT_QPA_PLATFORM=offscreen;CARCONTROL_RESOURCE_ROOT=${CARCONTROL_RESOURCE_ROOT};CARCONTROL_PLUGIN_DIR=${CARCONTROL_PLUGIN_DIR}")
     add_dependencies(${name} artwork)
