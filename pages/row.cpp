@@ -8,6 +8,7 @@ Row::Row(int kind, const char *title)
     , m_title(title)
     , m_id(-1)
     , m_unit(0)
+    , m_unitOffset(-1)
     , m_factor(1.0)
     , m_adjustable(false)
     , m_source(NoSource)
@@ -19,6 +20,9 @@ Row::Row(int kind, const char *title)
     , m_clamp(StandardClamp)
     , m_low(0)
     , m_high(0)
+    , m_stepSize(1)
+    , m_stepRule(0)
+    , m_stepFromBuffer(false)
     , m_command(-1)
     , m_sub(0)
     , m_frame(0)
@@ -64,6 +68,17 @@ Row &Row::unit(int unit)
 {
     m_unit = unit;
     return *this;
+}
+
+Row &Row::unitAt(int offset)
+{
+    m_unitOffset = offset;
+    return *this;
+}
+
+int Row::unitCode(DataBuffer const &buffer) const
+{
+    return m_unitOffset >= 0 ? int(buffer.byte(m_unitOffset)) : m_unit;
 }
 
 Row &Row::factor(double factor)
@@ -128,6 +143,24 @@ Row &Row::bounds(int low, int high)
     return *this;
 }
 
+Row &Row::stepBy(int size)
+{
+    m_stepSize = size;
+    return *this;
+}
+
+Row &Row::stepWith(StepRule rule)
+{
+    m_stepRule = rule;
+    return *this;
+}
+
+Row &Row::stepsFromBuffer()
+{
+    m_stepFromBuffer = true;
+    return *this;
+}
+
 Row &Row::command(int command, int sub)
 {
     m_command = command;
@@ -172,9 +205,11 @@ QVariant Row::value(DataBuffer const &buffer) const
     return raw;
 }
 
-int Row::step(int current, bool down, QList<QVariant> const &options) const
+int Row::step(int current, bool down, QList<QVariant> const &options, DataBuffer const &buffer) const
 {
-    int value = down ? current - 1 : current + 1;
+    if (m_stepRule)
+        return m_stepRule(buffer, current, down);
+    int value = down ? current - m_stepSize : current + m_stepSize;
     const int n = options.size();
     if (m_kind == ChoiceKind && m_clamp == StandardClamp) {
         if (value < 0)

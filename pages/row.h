@@ -29,6 +29,9 @@ public:
     // page has ids, its index otherwise; value is the stepped value after
     // the row's send map.
     typedef QByteArray (*FrameRule)(int key, int value);
+    // A row's own step: the value that a step down (or up) from current
+    // lands on, in place of the step and the clamp.
+    typedef int (*StepRule)(DataBuffer const &buffer, int current, bool down);
 
     // How a step is kept in range.
     enum Clamp {
@@ -53,6 +56,8 @@ public:
 
     Row &id(int id);
     Row &unit(int unit);
+    // The unit follows a byte of the buffer: the car reports its unit there.
+    Row &unitAt(int offset);
     Row &factor(double factor);
     Row &adjustable(bool adjustable = true);
 
@@ -67,6 +72,12 @@ public:
     // Steps.
     Row &clamp(Clamp rule);
     Row &bounds(int low, int high);
+    // Steps of size instead of 1, kept in range by the row's clamp.
+    Row &stepBy(int size);
+    Row &stepWith(StepRule rule);
+    // A step starts from the value in the buffer, not from the shown one
+    // (for pages that write a step into the buffer before the car answers).
+    Row &stepsFromBuffer();
     // 2E command 02 sub value: the common setting frame.
     Row &command(int command, int sub);
     Row &frame(FrameRule rule);
@@ -80,13 +91,17 @@ public:
     bool hasId() const { return m_id >= 0; }
     int rowId() const { return m_id; }
     int unitCode() const { return m_unit; }
+    bool followsUnit() const { return m_unitOffset >= 0; }
+    // The unit now: the buffer's byte where the row follows one.
+    int unitCode(DataBuffer const &buffer) const;
     double displayFactor() const { return m_factor; }
     bool isAdjustable() const { return m_adjustable; }
+    bool startsStepFromBuffer() const { return m_stepFromBuffer; }
 
     // The row's value as the buffer holds it now, after the display map.
     QVariant value(DataBuffer const &buffer) const;
     // The value that a step from current lands on.
-    int step(int current, bool down, QList<QVariant> const &options) const;
+    int step(int current, bool down, QList<QVariant> const &options, DataBuffer const &buffer) const;
     // The frame for a stepped value, or an empty array if the row sends none.
     QByteArray frameFor(int key, int value) const;
 
@@ -100,6 +115,7 @@ private:
     QList<QVariant> m_options;
     int m_id;
     int m_unit;
+    int m_unitOffset;
     double m_factor;
     bool m_adjustable;
 
@@ -113,6 +129,9 @@ private:
     Clamp m_clamp;
     int m_low;
     int m_high;
+    int m_stepSize;
+    StepRule m_stepRule;
+    bool m_stepFromBuffer;
     int m_command;
     int m_sub;
     FrameRule m_frame;

@@ -70,6 +70,7 @@ void RowPage::createView()
 void RowPage::initlist()
 {
     m_rows = rowTable();
+    const DataBuffer data = buffer();
     const char *context = metaObject()->className();
     for (int i = 0; i < m_rows.size(); ++i) {
         Row const &row = m_rows.at(i);
@@ -82,9 +83,9 @@ void RowPage::initlist()
         const QVariant value = currentValue(i);
         if (row.hasId())
             list.append(ListData(row.rowId(), row.kind(), title, value, options, row.isAdjustable(),
-                                 row.unitCode(), row.displayFactor()));
+                                 row.unitCode(data), row.displayFactor()));
         else
-            list.append(ListData(row.kind(), title, value, options, row.isAdjustable(), row.unitCode(),
+            list.append(ListData(row.kind(), title, value, options, row.isAdjustable(), row.unitCode(data),
                                  row.displayFactor()));
     }
 }
@@ -98,9 +99,17 @@ void RowPage::ondataChanged()
 {
     if (!model)
         return;
+    const DataBuffer data = buffer();
     const int rows = qMin(model->getListData().size(), m_rows.size());
-    for (int i = 0; i < rows; ++i)
+    for (int i = 0; i < rows; ++i) {
         updateRow(i, currentValue(i));
+        // A row that follows the car's unit switches its template.
+        if (m_rows.at(i).followsUnit()) {
+            const int unit = m_rows.at(i).unitCode(data);
+            if (model->getListData().at(i).unit != unit)
+                model->setData(model->index(i, 0), unit, UnitRole);
+        }
+    }
 }
 
 void RowPage::updateRow(int row, QVariant const &value)
@@ -120,11 +129,13 @@ void RowPage::onValueChanged(QModelIndex index, bool leftRight)
     const int row = index.row();
     if (row < 0 || row >= m_rows.size())
         return;
-    const int current = index.data(ValueRole).toInt();
+    Row const &entry = m_rows.at(row);
+    const int current = entry.startsStepFromBuffer() ? currentValue(row).toInt() : index.data(ValueRole).toInt();
     const QList<QVariant> options = list.at(row).options;
-    const int value = m_rows.at(row).step(current, leftRight, options);
+    const int value = entry.step(current, leftRight, options, buffer());
+    // A text has no number to step: shown at once, it empties.
     if (m_showsStepAtOnce)
-        model->setData(index, value, ValueRole);
+        model->setData(index, entry.kind() == TextKind ? QVariant(QString()) : QVariant(value), ValueRole);
     valueStepped(row, value);
 }
 

@@ -16,6 +16,9 @@ public slots:
     // Part of the page's interface; nothing reaches them.
     void onLeftBtClicked(QModelIndex index);
     void onRightBtClicked(QModelIndex index);
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 #endif // CARINFOITEM28_2_H

@@ -3,6 +3,8 @@
 
 #include "rowpage.h"
 
+// The car's own settings menu: one byte and one setting frame per row,
+// the step shown at once and sent through the stack.
 class CarInfoItem28_3 : public RowPage
 {
     Q_OBJECT
@@ -11,6 +13,11 @@ public:
 
     // Asks for the page's data groups, through sendData().
     void refreshDataFromCanbus();
+
+protected:
+    QList<Row> rowTable() const;
+    void initlist();
+    void valueStepped(int row, int value);
 };
 
 #endif // CARINFOITEM28_3_H

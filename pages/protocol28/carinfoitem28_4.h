@@ -11,6 +11,10 @@ public:
 
     // Asks for the page's data groups, through sendData().
     void refreshDataFromCanbus();
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 #endif // CARINFOITEM28_4_H

@@ -3,6 +3,8 @@
 
 #include "rowpage.h"
 
+// The energy display, with thirty rows of energy recovery history after
+// the table's rows.
 class CarInfoItem28_5 : public RowPage
 {
     Q_OBJECT
@@ -11,6 +13,13 @@ public:
 
     // Asks for the page's data groups, through sendData().
     void refreshDataFromCanbus();
+    // Follows the energy history as well as the table's rows.
+    void ondataChanged();
+
+protected:
+    QList<Row> rowTable() const;
+    void initlist();
+    void valueStepped(int row, int value);
 };
 
 #endif // CARINFOITEM28_5_H

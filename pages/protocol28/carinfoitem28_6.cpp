@@ -1,11 +1,84 @@
 #include "carinfoitem28_6.h"
 
+#include "canobj.h"
 #include "frames.h"
 #include "requests.h"
+
+namespace {
+
+// The row whose middle opens the tyre panel.
+const int ResetRow = 8;
+
+// Everything on this page comes from the tyre record inside the climate
+// record. Without a record the texts are empty and the choices show nothing.
+TirePressureInformation const *tyres()
+{
+    AirData const *air = CanObj::instance()->getAirData();
+    return air ? &air->tirePressure : 0;
+}
+
+template <QString TirePressureInformation::*Pressure>
+QVariant pressure(DataBuffer const &)
+{
+    TirePressureInformation const *record = tyres();
+    return record ? record->*Pressure : QString();
+}
+
+template <int Wheel>
+QVariant wheelStatus(DataBuffer const &)
+{
+    TirePressureInformation const *record = tyres();
+    return record ? int(record->status[Wheel]) : -1;
+}
+
+// The alarm byte to its option: 0, 2, 3, 4 to the first four, anything
+// else to "No display".
+int alarmOption(int alarm)
+{
+    switch (alarm) {
+    case 0: return 0;
+    case 2: return 1;
+    case 3: return 2;
+    case 4: return 3;
+    default: return 4;
+    }
+}
+
+QVariant alarmType(DataBuffer const &)
+{
+    TirePressureInformation const *record = tyres();
+    return alarmOption(record ? record->alarm[0] : -1);
+}
+
+QVariant resetText(DataBuffer const &)
+{
+    return CarInfoItem28_6::tr("Reset");
+}
+
+} // namespace
 
 CarInfoItem28_6::CarInfoItem28_6(QString const &title, QWidget *parent)
     : ClickRowPage(title, parent)
 {
+    // A status page: a step moves the row and tells the car nothing.
+    setShowsStepAtOnce(true);
+}
+
+QList<Row> CarInfoItem28_6::rowTable() const
+{
+    typedef TirePressureInformation Tyres;
+    return QList<Row>()
+        << Row::text("Left front tire pressure value").read(pressure<&Tyres::frontLeftPressure>)
+        << Row::text("Right front tire pressure value").read(pressure<&Tyres::frontRightPressure>)
+        << Row::text("Left rear tire pressure value").read(pressure<&Tyres::rearLeftPressure>)
+        << Row::text("Right rear tire pressure value").read(pressure<&Tyres::rearRightPressure>)
+        << Row::choice("Front left tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::FrontLeft>)
+        << Row::choice("Front right tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::FrontRight>)
+        << Row::choice("Rear left tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::RearLeft>)
+        << Row::choice("Rear right tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::RearRight>)
+        << Row::text("TPMS").read(resetText)
+        << Row::choice("alarm type", {"Tire pressure is normal", "Please check tire pressure",
+                                      "Tire pressure is too low", "Tire loss", "No display"}).read(alarmType);
 }
 
 void CarInfoItem28_6::refreshDataFromCanbus()
@@ -17,6 +90,6 @@ void CarInfoItem28_6::refreshDataFromCanbus()
 
 void CarInfoItem28_6::middlePressed(int row)
 {
-    if (row == 8) // the reset row
+    if (row == ResetRow)
         emit TirePressure();
 }

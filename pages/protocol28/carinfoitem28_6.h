@@ -17,6 +17,7 @@ signals:
     void TirePressure();
 
 protected:
+    QList<Row> rowTable() const;
     void middlePressed(int row);
 };
 

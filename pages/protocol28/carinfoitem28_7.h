@@ -11,6 +11,9 @@ public:
 
     // Asks for the page's data groups, through sendData().
     void refreshDataFromCanbus();
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 #endif // CARINFOITEM28_7_H

@@ -3,6 +3,7 @@
 
 #include "rowpage.h"
 
+// Electric management: a step writes the buffer and sends its whole group.
 class CarInfoItem28_8 : public RowPage
 {
     Q_OBJECT
@@ -11,6 +12,11 @@ public:
 
     // Asks for the page's data groups, through sendData().
     void refreshDataFromCanbus();
+
+protected:
+    QList<Row> rowTable() const;
+    void initlist();
+    void valueStepped(int row, int value);
 };
 
 #endif // CARINFOITEM28_8_H
