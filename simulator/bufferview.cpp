@@ -5,8 +5,10 @@
 #include "hoststate.h"
 
 #include <QFontDatabase>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QLabel>
+#include <QStyle>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -101,12 +103,22 @@ BufferView::BufferView(QWidget *parent)
     , m_table(new QTableView(this))
     , m_title(new QLabel(this))
 {
+    m_table->setObjectName(QStringLiteral("bufferTable"));
     auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(2, 2, 2, 2);
     layout->addWidget(m_title);
     layout->addWidget(m_table);
     m_table->setModel(m_model);
-    m_table->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Sixteen columns as narrow as two hex digits, so that a row fits beside
+    // the screen.
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    m_table->setFont(fixed);
+    const int textMargin = 2 * (m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1);
+    const int cellWidth = QFontMetrics(fixed).horizontalAdvance(QStringLiteral("00")) + textMargin;
+    m_table->setTextElideMode(Qt::ElideNone);
+    m_table->horizontalHeader()->setMinimumSectionSize(cellWidth);
+    m_table->horizontalHeader()->setDefaultSectionSize(cellWidth);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
                              | QAbstractItemView::AnyKeyPressed);

@@ -5,7 +5,7 @@
 // simulator (demo/demo-data.scn, demo/demo-tour.scn): the car's data on
 // protocol 28, and a walk through its screens with one screenshot per step.
 
-#include "scenario.h"
+#include "scenariorunner.h"
 
 class SimulatorHost;
 

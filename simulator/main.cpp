@@ -3,9 +3,11 @@
 // box, shows the head unit's screen and every frame the plug-in sends, and
 // runs scenarios: scripted end-to-end tests of the plug-in.
 
+#include "debuglog.h"
 #include "demo.h"
+#include "eventpump.h"
 #include "mainwindow.h"
-#include "scenario.h"
+#include "scenariorunner.h"
 #include "simulatorhost.h"
 
 #include "hostsim.h"
@@ -150,10 +152,7 @@ bool saveScreenshot(SimulatorHost &host, QString const &file)
 {
     Scenario::Runner runner(host);
     QString failure;
-    Scenario::Command command;
-    command.kind = Scenario::Kind::Screenshot;
-    command.texts << file;
-    if (!runner.execute(command, &failure)) {
+    if (!runner.screenshot(file, &failure)) {
         printError(failure);
         return false;
     }
@@ -197,7 +196,7 @@ int main(int argc, char *argv[])
 
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("headunit-sim"));
-    SimulatorHost::captureMessages(options.verbose || !headless);
+    DebugLog::capture(options.verbose || !headless);
 
     // Headless runs keep the head unit's settings to themselves, so that
     // runs side by side don't see each other's.
@@ -245,7 +244,7 @@ int main(int argc, char *argv[])
 
     if (headless) {
         HostSim::screen()->show();
-        SimulatorHost::settle();
+        EventPump::settle();
         int status = Scenario::Passed;
         if (options.script.isEmpty()) {
             Demo::loadData(host);
@@ -271,7 +270,7 @@ int main(int argc, char *argv[])
         if (!options.script.isEmpty())
             status = window.runScenario(script);
         if (!options.windowScreenshot.isEmpty()) {
-            if (!window.grab().save(options.windowScreenshot, "PNG")) {
+            if (!window.saveWindow(options.windowScreenshot)) {
                 printError(QStringLiteral("%1: can't write the picture").arg(options.windowScreenshot));
                 status = Scenario::Failed;
             }

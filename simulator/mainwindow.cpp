@@ -2,39 +2,30 @@
 
 #include "bufferview.h"
 #include "canobj.h"
-#include "catalogue.h"
 #include "demo.h"
 #include "hostsim.h"
+#include "keys.h"
+#include "logpanel.h"
 #include "panels.h"
 #include "simulatorhost.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QFontDatabase>
-#include <QFormLayout>
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QTime>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <cstdio>
 
 namespace {
 
-// How often the window looks at the climate commands and debug lines.
-constexpr int PollMs = 200;
-constexpr int PanelWidth = 500;
+constexpr int PanelWidth = 540;
+// How often the window title follows the protocol.
+constexpr int TitleMs = 500;
 
 QPushButton *panelButton(QString const &text, QWidget *parent)
 {
@@ -49,13 +40,9 @@ QWidget *scrolled(QWidget *content)
     auto *area = new QScrollArea;
     area->setWidget(content);
     area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFrameShape(QFrame::NoFrame);
     return area;
-}
-
-QString timeText(qint64 ms)
-{
-    return QStringLiteral("%1.%2").arg(ms / 1000).arg(ms % 1000, 3, 10, QLatin1Char('0'));
 }
 
 } // namespace
@@ -66,111 +53,53 @@ MainWindow::MainWindow(SimulatorHost &host, QWidget *parent)
     , m_runner(host)
 {
     setWindowTitle(tr("Head-unit simulator"));
-
     auto *central = new QWidget(this);
     auto *layout = new QHBoxLayout(central);
 
-    // The head unit's screen, at its real size.
-    QWidget *screen = HostSim::screen();
-    auto *frame = new QWidget(central);
-    frame->setFixedSize(screen->size());
-    screen->setParent(frame);
-    screen->move(0, 0);
-    screen->show();
     auto *screenColumn = new QVBoxLayout;
-    screenColumn->addWidget(frame);
+    screenColumn->addWidget(makeScreen());
     screenColumn->addWidget(makeKeys());
     screenColumn->addStretch(1);
     layout->addLayout(screenColumn);
 
-    // The control panel.
     auto *panel = new QSplitter(Qt::Vertical, central);
     panel->setFixedWidth(PanelWidth);
-    auto *tabs = new QTabWidget(panel);
+    auto *controls = new QWidget(panel);
+    auto *controlsLayout = new QVBoxLayout(controls);
+    controlsLayout->setContentsMargins(0, 0, 0, 0);
+    auto *tabs = new QTabWidget(controls);
+    m_car = new CarPanel(host);
     m_climate = new ClimateEditor(host);
-    tabs->addTab(scrolled(makeCarPage()), tr("Car"));
+    m_body = new BodyPanel(host);
+    m_reverse = new ReversePanel(host);
+    tabs->addTab(scrolled(m_car), tr("Car"));
     tabs->addTab(scrolled(m_climate), tr("Climate"));
-    tabs->addTab(scrolled(new BodyPanel(host)), tr("Body"));
-    tabs->addTab(scrolled(new ReversePanel(host)), tr("Reverse"));
+    tabs->addTab(scrolled(m_body), tr("Body"));
+    tabs->addTab(scrolled(m_reverse), tr("Reverse"));
     tabs->addTab(new BufferView, tr("Data buffer"));
-    panel->addWidget(tabs);
-    panel->addWidget(makeLogs());
-    panel->setStretchFactor(0, 1);
-    panel->setStretchFactor(1, 1);
+    controlsLayout->addWidget(tabs);
+    controlsLayout->addWidget(makeCommandLine());
+    panel->addWidget(controls);
+    panel->addWidget(new LogPanel(host, panel));
+    panel->setStretchFactor(0, 3);
+    panel->setStretchFactor(1, 2);
     layout->addWidget(panel);
     setCentralWidget(central);
 
-    connect(&host, &SimulatorHost::frameSent, this, &MainWindow::appendFrame);
-    startTimer(PollMs);
     statusBar()->showMessage(tr("Plug-in: %1").arg(host.pluginFile()));
+    startTimer(TitleMs);
 }
 
-QWidget *MainWindow::makeCarPage()
+// The head unit's screen, at its real size.
+QWidget *MainWindow::makeScreen()
 {
-    auto *page = new QWidget;
-    auto *layout = new QVBoxLayout(page);
-
-    auto *vehicle = new QGroupBox(tr("Vehicle"), page);
-    auto *vehicleForm = new QFormLayout(vehicle);
-    m_protocols = new QComboBox(vehicle);
-    m_protocols->addItem(tr("0: no vehicle"), 0);
-    for (int id : Catalogue::protocolIds()) {
-        const int family = Catalogue::familyOf(id);
-        m_protocols->addItem(family == id ? tr("%1").arg(id) : tr("%1 (family %2)").arg(id).arg(family), id);
-    }
-    m_family = new QLabel(vehicle);
-    vehicleForm->addRow(tr("Protocol"), m_protocols);
-    vehicleForm->addRow(tr("Page family"), m_family);
-    auto *rightDriver = new QCheckBox(tr("Right-hand drive"), vehicle);
-    auto *wallpaper = new QCheckBox(tr("Wallpaper"), vehicle);
-    vehicleForm->addRow(rightDriver);
-    vehicleForm->addRow(wallpaper);
-    layout->addWidget(vehicle);
-    connect(m_protocols, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
-        selectProtocol(m_protocols->itemData(index).toInt());
-    });
-    connect(rightDriver, &QCheckBox::toggled, this, [this](bool right) {
-        HostSim::setRightDriver(right);
-        m_host.call(QStringLiteral("setRightDriver"), {right});
-    });
-    connect(wallpaper, &QCheckBox::toggled, this, [](bool on) {
-        HostSim::setWallpaper(on ? SimulatorHost::wallpaper() : QPixmap());
-        HostSim::screen()->update();
-    });
-
-    auto *views = new QGroupBox(tr("Screens"), page);
-    auto *viewGrid = new QGridLayout(views);
-    const QList<QPair<QString, QString> > shows = {
-        {tr("Extended view"), QStringLiteral("showExView")},
-        {tr("Second extended view"), QStringLiteral("showExViewDialogView")},
-        {tr("Overlays"), QStringLiteral("showDialogView")},
-        {tr("Raise overlays"), QStringLiteral("showUiRaise")},
-    };
-    for (int i = 0; i < shows.size(); ++i) {
-        QPushButton *button = panelButton(shows.at(i).first, views);
-        button->setToolTip(shows.at(i).second + QStringLiteral("()"));
-        const QString operation = shows.at(i).second;
-        connect(button, &QPushButton::clicked, this, [this, operation] { m_host.call(operation); });
-        viewGrid->addWidget(button, i / 2, i % 2);
-    }
-    QPushButton *notify = panelButton(tr("Data changed"), views);
-    notify->setToolTip(tr("The \"canbus\" module emits dataChanged()"));
-    connect(notify, &QPushButton::clicked, this, [] { HostSim::notifyDataChanged(); });
-    viewGrid->addWidget(notify, 2, 0);
-    layout->addWidget(views);
-
-    auto *command = new QGroupBox(tr("Scenario command"), page);
-    auto *commandLayout = new QHBoxLayout(command);
-    m_command = new QLineEdit(command);
-    m_command->setPlaceholderText(tr("e.g. tap title 1, expect row 1 \"9\", buf 106 9"));
-    QPushButton *run = panelButton(tr("Run"), command);
-    commandLayout->addWidget(m_command);
-    commandLayout->addWidget(run);
-    connect(m_command, &QLineEdit::returnPressed, this, &MainWindow::runCommandLine);
-    connect(run, &QPushButton::clicked, this, &MainWindow::runCommandLine);
-    layout->addWidget(command);
-    layout->addStretch(1);
-    return page;
+    QWidget *screen = m_host.screen();
+    auto *frame = new QWidget;
+    frame->setFixedSize(screen->size());
+    screen->setParent(frame);
+    screen->move(0, 0);
+    screen->show();
+    return frame;
 }
 
 // The head unit's hardware keys, in a row under the screen as on the
@@ -187,46 +116,27 @@ QWidget *MainWindow::makeKeys()
         QPushButton *button = panelButton(QString::fromUtf8(key.label), keys);
         button->setToolTip(QStringLiteral("%1 (0x%2)").arg(QLatin1String(key.name)).arg(key.code, 0, 16));
         const int code = key.code;
-        connect(button, &QPushButton::clicked, this, [this, code] { m_host.key(code); });
+        connect(button, &QPushButton::clicked, this, [this, code] { m_host.input().key(code); });
         row->addWidget(button);
     }
     row->addStretch(1);
     return keys;
 }
 
-QWidget *MainWindow::makeLogs()
+QWidget *MainWindow::makeCommandLine()
 {
-    auto *tabs = new QTabWidget;
-    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-
-    m_frames = new QTreeWidget(tabs);
-    m_frames->setHeaderLabels({tr("Time"), tr("Bytes"), tr("Family"), tr("Command")});
-    m_frames->setRootIsDecorated(false);
-    m_frames->setFont(fixed);
-    m_frames->header()->setSectionResizeMode(1, QHeaderView::Stretch);
-    m_frames->header()->setStretchLastSection(false);
-
-    m_commands = new QTreeWidget(tabs);
-    m_commands->setHeaderLabels({tr("Time"), tr("Key"), tr("Value")});
-    m_commands->setRootIsDecorated(false);
-
-    m_debug = new QPlainTextEdit(tabs);
-    m_debug->setReadOnly(true);
-    m_debug->setFont(fixed);
-    m_debug->setMaximumBlockCount(5000);
-
-    tabs->addTab(m_frames, tr("Frames"));
-    tabs->addTab(m_commands, tr("Climate commands"));
-    tabs->addTab(m_debug, tr("Debug lines"));
-    QPushButton *clear = new QPushButton(tr("Clear"), tabs);
-    clear->setFocusPolicy(Qt::NoFocus);
-    tabs->setCornerWidget(clear);
-    connect(clear, &QPushButton::clicked, this, [this] {
-        m_frames->clear();
-        m_commands->clear();
-        m_debug->clear();
-    });
-    return tabs;
+    auto *line = new QWidget;
+    auto *row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    m_command = new QLineEdit(line);
+    m_command->setObjectName(QStringLiteral("commandLine"));
+    m_command->setPlaceholderText(tr("A scenario command, e.g. tap title 1 or expect row 1 \"2\""));
+    QPushButton *run = panelButton(tr("Run"), line);
+    row->addWidget(m_command);
+    row->addWidget(run);
+    connect(m_command, &QLineEdit::returnPressed, this, &MainWindow::runCommandLine);
+    connect(run, &QPushButton::clicked, this, &MainWindow::runCommandLine);
+    return line;
 }
 
 void MainWindow::startDemoCar(int protocolId)
@@ -235,31 +145,9 @@ void MainWindow::startDemoCar(int protocolId)
         const Scenario::Result result = Demo::loadData(m_host);
         if (result.status != Scenario::Passed)
             showStatus(result.message, true);
-        m_climate->load();
     }
-    selectProtocol(protocolId);
-}
-
-void MainWindow::selectProtocol(int protocolId)
-{
-    HostSim::setProtocolId(protocolId);
-    m_host.call(QStringLiteral("setProtocolId"), {protocolId});
-    showProtocol(protocolId);
-}
-
-void MainWindow::showProtocol(int protocolId)
-{
-    m_shownProtocol = protocolId;
-    int index = m_protocols->findData(protocolId);
-    if (index < 0) {
-        // An id outside the catalogue, chosen by a scenario.
-        m_protocols->addItem(tr("%1: no page family").arg(protocolId), protocolId);
-        index = m_protocols->count() - 1;
-    }
-    m_protocols->setCurrentIndex(index);
-    const int family = Catalogue::familyOf(protocolId);
-    m_family->setText(family ? tr("CarExView%1").arg(family) : tr("none: the extended view stays empty"));
-    setWindowTitle(tr("Head-unit simulator: protocol %1").arg(protocolId));
+    m_car->selectProtocol(protocolId);
+    reloadPanels();
 }
 
 int MainWindow::runScenario(Scenario::Script const &script)
@@ -271,8 +159,13 @@ int MainWindow::runScenario(Scenario::Script const &script)
         std::fprintf(stderr, "%s\n", qPrintable(result.message));
         showStatus(result.message, true);
     }
-    m_climate->load();
+    reloadPanels();
     return result.status;
+}
+
+bool MainWindow::saveWindow(QString const &file)
+{
+    return grab().save(file, "PNG");
 }
 
 void MainWindow::runCommandLine()
@@ -292,7 +185,7 @@ void MainWindow::runCommandLine()
         showStatus(tr("done: %1").arg(command.source), false);
     else
         showStatus(failure, true);
-    m_climate->load();
+    reloadPanels();
     m_command->selectAll();
 }
 
@@ -302,38 +195,18 @@ void MainWindow::showStatus(QString const &text, bool failed)
     statusBar()->showMessage(text);
 }
 
-void MainWindow::appendFrame(qint64 ms, QByteArray const &frame)
+void MainWindow::reloadPanels()
 {
-    const QString family = frame.isEmpty() ? QString()
-            : QStringLiteral("%1").arg(quint8(frame.at(0)), 2, 16, QLatin1Char('0')).toUpper();
-    const QString command = frame.size() < 2 ? QString()
-            : QStringLiteral("%1").arg(quint8(frame.at(1)), 2, 16, QLatin1Char('0')).toUpper();
-    auto *item = new QTreeWidgetItem(m_frames, {timeText(ms), Scenario::hex(frame), family, command});
-    m_frames->scrollToItem(item);
-}
-
-void MainWindow::pollLogs()
-{
-    const auto commands = HostSim::climateCommands();
-    if (commands.size() < m_commandsShown)
-        m_commandsShown = 0;
-    for (int i = m_commandsShown; i < commands.size(); ++i) {
-        auto *item = new QTreeWidgetItem(m_commands, {QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz")),
-                                                      commands.at(i).first, commands.at(i).second});
-        m_commands->scrollToItem(item);
-    }
-    m_commandsShown = commands.size();
-
-    const QStringList lines = SimulatorHost::messages();
-    for (int i = m_messagesShown; i < lines.size(); ++i)
-        m_debug->appendPlainText(lines.at(i));
-    m_messagesShown = lines.size();
+    m_car->load();
+    m_climate->load();
+    m_body->load();
+    m_reverse->load();
 }
 
 void MainWindow::timerEvent(QTimerEvent *)
 {
-    pollLogs();
-    // A scenario or the command line may have chosen another protocol.
-    if (CanObj::id() != m_shownProtocol)
-        showProtocol(CanObj::id());
+    // A scenario, the command line or the buffer editor may have chosen
+    // another protocol.
+    m_car->load();
+    setWindowTitle(tr("Head-unit simulator: protocol %1").arg(CanObj::id()));
 }

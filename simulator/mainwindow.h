@@ -1,20 +1,20 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-// The simulator's window: the head unit's screen at its real size, and
-// beside it the control panel that plays the car, the decoder box and the
-// head unit's keys, with the logs of what the plug-in sent.
+// The simulator's window: the head unit's screen at its real size with the
+// unit's hardware keys under it, and beside it the control panel that plays
+// the car, the decoder box and the user, a line that runs any scenario
+// command, and the logs of what the plug-in sent.
 
-#include "scenario.h"
+#include "scenariorunner.h"
 
 #include <QMainWindow>
 
+class BodyPanel;
+class CarPanel;
 class ClimateEditor;
-class QComboBox;
-class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
-class QTreeWidget;
+class ReversePanel;
 class SimulatorHost;
 
 class MainWindow : public QMainWindow
@@ -23,39 +23,33 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(SimulatorHost &host, QWidget *parent = nullptr);
 
-    // Selects the protocol; on protocol 28 the demo car's data come first.
+    // Selects the protocol; on the demo car's protocol its data come first.
     void startDemoCar(int protocolId);
     // Runs a scenario in the window; the result goes to the status bar and
     // to standard error. Returns the scenario's exit status.
     int runScenario(Scenario::Script const &script);
+    // Saves the whole window as PNG. False when the file can't be written.
+    bool saveWindow(QString const &file);
 
 protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
-    QWidget *makeCarPage();
+    QWidget *makeScreen();
     QWidget *makeKeys();
-    QWidget *makeLogs();
-    void selectProtocol(int protocolId);
-    // The picker, the family and the title follow the host's protocol.
-    void showProtocol(int protocolId);
+    QWidget *makeCommandLine();
     void runCommandLine();
-    void appendFrame(qint64 ms, QByteArray const &frame);
-    void pollLogs();
     void showStatus(QString const &text, bool failed);
+    // The panels show the host's data as it is after a scenario or command.
+    void reloadPanels();
 
     SimulatorHost &m_host;
     Scenario::Runner m_runner;
-    QComboBox *m_protocols = nullptr;
-    QLabel *m_family = nullptr;
+    CarPanel *m_car = nullptr;
     ClimateEditor *m_climate = nullptr;
+    BodyPanel *m_body = nullptr;
+    ReversePanel *m_reverse = nullptr;
     QLineEdit *m_command = nullptr;
-    QTreeWidget *m_frames = nullptr;
-    QTreeWidget *m_commands = nullptr;
-    QPlainTextEdit *m_debug = nullptr;
-    int m_shownProtocol = -1;
-    int m_commandsShown = 0;
-    int m_messagesShown = 0;
 };
 
 #endif // MAINWINDOW_H

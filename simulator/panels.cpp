@@ -1,8 +1,11 @@
 #include "panels.h"
 
 #include "airdata.h"
+#include "basecontrol.h"
+#include "canobj.h"
 #include "carbodydata.h"
 #include "cardoordata.h"
+#include "catalogue.h"
 #include "hostsim.h"
 #include "radardata.h"
 #include "simulatorhost.h"
@@ -16,6 +19,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSlider>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -32,7 +36,114 @@ QPushButton *button(QString const &text, QWidget *parent)
     return b;
 }
 
+quint8 *doorBytes()
+{
+    return reinterpret_cast<quint8 *>(HostSim::cardoorData());
+}
+
+qint8 *bodyBytes()
+{
+    return reinterpret_cast<qint8 *>(HostSim::carbodyData());
+}
+
 } // namespace
+
+// --- Car ----------------------------------------------------------------------
+
+CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
+    : QWidget(parent)
+    , m_host(host)
+    , m_protocols(new QComboBox(this))
+    , m_family(new QLabel(this))
+    , m_rightDriver(new QCheckBox(tr("Right-hand drive"), this))
+    , m_wallpaper(new QCheckBox(tr("Wallpaper"), this))
+{
+    m_protocols->setObjectName(QStringLiteral("protocolPicker"));
+    m_family->setObjectName(QStringLiteral("pageStackName"));
+    auto *layout = new QVBoxLayout(this);
+
+    auto *vehicle = new QGroupBox(tr("Vehicle"), this);
+    auto *vehicleForm = new QFormLayout(vehicle);
+    m_protocols->addItem(tr("0: no vehicle"), 0);
+    for (int id : Catalogue::protocolIds())
+        m_protocols->addItem(tr("%1: family %2").arg(id).arg(Catalogue::familyOf(id)), id);
+    m_protocols->setMaxVisibleItems(20);
+    vehicleForm->addRow(tr("Protocol"), m_protocols);
+    vehicleForm->addRow(tr("Page stack"), m_family);
+    vehicleForm->addRow(m_rightDriver);
+    vehicleForm->addRow(m_wallpaper);
+    layout->addWidget(vehicle);
+    connect(m_protocols, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        selectProtocol(m_protocols->itemData(index).toInt());
+    });
+    connect(m_rightDriver, &QCheckBox::toggled, this, [this](bool right) {
+        HostSim::setRightDriver(right);
+        m_host.call(QStringLiteral("setRightDriver"), {right});
+    });
+    connect(m_wallpaper, &QCheckBox::toggled, this, [this](bool on) {
+        HostSim::setWallpaper(on ? SimulatorHost::wallpaper() : QPixmap());
+        m_host.screen()->update();
+    });
+
+    auto *views = new QGroupBox(tr("Screens"), this);
+    auto *viewGrid = new QGridLayout(views);
+    const QList<QPair<QString, QString> > shows = {
+        {tr("Extended view"), QStringLiteral("showExView")},
+        {tr("Second extended view"), QStringLiteral("showExViewDialogView")},
+        {tr("Overlays"), QStringLiteral("showDialogView")},
+        {tr("Raise overlays"), QStringLiteral("showUiRaise")},
+    };
+    for (int i = 0; i < shows.size(); ++i) {
+        QPushButton *b = button(shows.at(i).first, views);
+        const QString operation = shows.at(i).second;
+        b->setToolTip(operation + QStringLiteral("()"));
+        connect(b, &QPushButton::clicked, this, [this, operation] { m_host.call(operation); });
+        viewGrid->addWidget(b, i / 2, i % 2);
+    }
+    QPushButton *notify = button(tr("Data changed"), views);
+    notify->setToolTip(tr("The \"canbus\" module emits dataChanged()"));
+    connect(notify, &QPushButton::clicked, this, [] { HostSim::notifyDataChanged(); });
+    viewGrid->addWidget(notify, 2, 0);
+    QPushButton *setData = button(tr("Refresh page"), views);
+    setData->setToolTip(tr("setData(), the framework's signal to refresh the page in front"));
+    connect(setData, &QPushButton::clicked, this, [this] { m_host.call(QStringLiteral("setData"), {QVariant()}); });
+    viewGrid->addWidget(setData, 2, 1);
+    layout->addWidget(views);
+    layout->addStretch(1);
+    load();
+}
+
+void CarPanel::selectProtocol(int protocolId)
+{
+    HostSim::setProtocolId(protocolId);
+    m_host.call(QStringLiteral("setProtocolId"), {protocolId});
+    showProtocol(protocolId);
+}
+
+void CarPanel::load()
+{
+    if (CanObj::id() != m_shownProtocol)
+        showProtocol(CanObj::id());
+    const QSignalBlocker rightBlocker(m_rightDriver);
+    m_rightDriver->setChecked(CanObj::instance()->isRightDriver());
+    const QSignalBlocker wallpaperBlocker(m_wallpaper);
+    m_wallpaper->setChecked(BaseControl::getInstance()->getBackgroundPixmap() != nullptr);
+}
+
+void CarPanel::showProtocol(int protocolId)
+{
+    m_shownProtocol = protocolId;
+    int index = m_protocols->findData(protocolId);
+    if (index < 0) {
+        // An id outside the catalogue, chosen by a scenario.
+        m_protocols->addItem(tr("%1: no page family").arg(protocolId), protocolId);
+        index = m_protocols->count() - 1;
+    }
+    m_protocols->setCurrentIndex(index);
+    const int family = Catalogue::familyOf(protocolId);
+    m_family->setText(family ? QStringLiteral("CarExView%1").arg(family)
+                             : tr("none: the extended view's list stays empty"));
+}
 
 // --- Climate ------------------------------------------------------------------
 
@@ -217,14 +328,15 @@ BodyPanel::BodyPanel(SimulatorHost &host, QWidget *parent)
 
     auto *doors = new QGroupBox(tr("Doors (onCardoorDataChanged)"), this);
     auto *doorGrid = new QGridLayout(doors);
+    // In the order of the door record's bytes.
     const QStringList doorNames = {tr("Front left door"), tr("Front right door"), tr("Rear left door"),
                                    tr("Rear right door"), tr("Trunk"), tr("Hood")};
     for (int i = 0; i < doorNames.size(); ++i) {
         auto *box = new QCheckBox(doorNames.at(i), doors);
-        box->setChecked(reinterpret_cast<quint8 const *>(HostSim::cardoorData())[i] != 0);
         doorGrid->addWidget(box, i / 2, i % 2);
+        m_doors.append(box);
         connect(box, &QCheckBox::toggled, this, [this, i](bool open) {
-            reinterpret_cast<quint8 *>(HostSim::cardoorData())[i] = open ? 1 : 0;
+            doorBytes()[i] = open ? 1 : 0;
             m_host.call(QStringLiteral("onCardoorDataChanged"));
         });
     }
@@ -240,15 +352,28 @@ BodyPanel::BodyPanel(SimulatorHost &host, QWidget *parent)
     for (auto const &warning : warnings) {
         const int offset = warning.first;
         auto *box = new QCheckBox(warning.second, body);
-        box->setChecked(reinterpret_cast<qint8 const *>(HostSim::carbodyData())[offset] == 1);
         bodyLayout->addWidget(box);
+        m_warnings.append(qMakePair(offset, box));
         connect(box, &QCheckBox::toggled, this, [this, offset](bool on) {
-            reinterpret_cast<qint8 *>(HostSim::carbodyData())[offset] = on ? 1 : 0;
+            bodyBytes()[offset] = on ? 1 : 0;
             m_host.call(QStringLiteral("onCarbodyDataChanged"));
         });
     }
     layout->addWidget(body);
     layout->addStretch(1);
+    load();
+}
+
+void BodyPanel::load()
+{
+    for (int i = 0; i < m_doors.size(); ++i) {
+        const QSignalBlocker blocker(m_doors.at(i));
+        m_doors.at(i)->setChecked(doorBytes()[i] != 0);
+    }
+    for (auto const &warning : qAsConst(m_warnings)) {
+        const QSignalBlocker blocker(warning.second);
+        warning.second->setChecked(bodyBytes()[warning.first] == 1);
+    }
 }
 
 // --- Reverse ---------------------------------------------------------------------
@@ -263,10 +388,10 @@ ReversePanel::ReversePanel(SimulatorHost &host, QWidget *parent)
     auto *gearLayout = new QVBoxLayout(gear);
     auto *reverse = new QCheckBox(tr("In reverse (setReverse)"), gear);
     auto *signal = new QCheckBox(tr("Camera signal (setReverseSignalState)"), gear);
-    auto *disableRadar = new QCheckBox(tr("Radar display off (host)"), gear);
+    m_disableRadar = new QCheckBox(tr("Radar display off (host)"), gear);
     gearLayout->addWidget(reverse);
     gearLayout->addWidget(signal);
-    gearLayout->addWidget(disableRadar);
+    gearLayout->addWidget(m_disableRadar);
     layout->addWidget(gear);
     connect(reverse, &QCheckBox::toggled, this, [this](bool on) {
         m_host.call(QStringLiteral("setReverse"), {on});
@@ -274,7 +399,7 @@ ReversePanel::ReversePanel(SimulatorHost &host, QWidget *parent)
     connect(signal, &QCheckBox::toggled, this, [this](bool on) {
         m_host.call(QStringLiteral("setReverseSignalState"), {on});
     });
-    connect(disableRadar, &QCheckBox::toggled, this, [](bool on) { HostSim::setDisableRadar(on); });
+    connect(m_disableRadar, &QCheckBox::toggled, this, [](bool on) { HostSim::setDisableRadar(on); });
 
     auto *line = new QGroupBox(tr("Guide line (onTrajectoryDataChanged)"), this);
     auto *lineForm = new QFormLayout(line);
@@ -285,36 +410,33 @@ ReversePanel::ReversePanel(SimulatorHost &host, QWidget *parent)
     m_lineRange->setValue(100);
     m_lineVisible = new QCheckBox(tr("visible"), line);
     m_lineVisible->setChecked(true);
-    auto *carHasLine = new QCheckBox(tr("the car reports a guide line (host)"), line);
-    auto *userWantsLine = new QCheckBox(tr("the user wants the guide line (host)"), line);
-    carHasLine->setChecked(true);
-    userWantsLine->setChecked(true);
+    m_carHasLine = new QCheckBox(tr("the car reports a guide line (host)"), line);
+    m_userWantsLine = new QCheckBox(tr("the user wants the guide line (host)"), line);
     lineForm->addRow(tr("Value"), m_lineValue);
     lineForm->addRow(tr("Range"), m_lineRange);
     lineForm->addRow(m_lineVisible);
-    lineForm->addRow(carHasLine);
-    lineForm->addRow(userWantsLine);
+    lineForm->addRow(m_carHasLine);
+    lineForm->addRow(m_userWantsLine);
     layout->addWidget(line);
     connect(m_lineValue, &QSlider::valueChanged, this, &ReversePanel::sendGuideLine);
     connect(m_lineRange, QOverload<int>::of(&QSpinBox::valueChanged), this, &ReversePanel::sendGuideLine);
     connect(m_lineVisible, &QCheckBox::toggled, this, &ReversePanel::sendGuideLine);
-    connect(carHasLine, &QCheckBox::toggled, this, [](bool on) { HostSim::setHadReverseLine(on); });
-    connect(userWantsLine, &QCheckBox::toggled, this, [](bool on) { HostSim::setShowReverseLine(on); });
+    connect(m_carHasLine, &QCheckBox::toggled, this, [](bool on) { HostSim::setHadReverseLine(on); });
+    connect(m_userWantsLine, &QCheckBox::toggled, this, [](bool on) { HostSim::setShowReverseLine(on); });
 
     auto *radar = new QGroupBox(tr("Radar distances (onRadarDataChanged)"), this);
     auto *radarGrid = new QGridLayout(radar);
     m_scale = new QSpinBox(radar);
     m_scale->setRange(0, 255);
-    m_scale->setValue(HostSim::radarData()->scale);
     radarGrid->addWidget(new QLabel(tr("Scale (byte 1)"), radar), 0, 0);
     radarGrid->addWidget(m_scale, 0, 1);
+    // The displayed group of eight distances, bytes 2 to 9.
     const QStringList sensors = {tr("Rear, left"), tr("Rear, left middle"), tr("Rear, right middle"),
                                  tr("Rear, right"), tr("Front, left"), tr("Front, left middle"),
                                  tr("Front, right middle"), tr("Front, right")};
     for (int i = 0; i < sensors.size(); ++i) {
         auto *distance = new QSpinBox(radar);
         distance->setRange(0, 255);
-        distance->setValue(HostSim::radarData()->distances[i]);
         m_distances.append(distance);
         radarGrid->addWidget(new QLabel(sensors.at(i), radar), 1 + i % 4, (i / 4) * 2);
         radarGrid->addWidget(distance, 1 + i % 4, (i / 4) * 2 + 1);
@@ -327,6 +449,28 @@ ReversePanel::ReversePanel(SimulatorHost &host, QWidget *parent)
     radarGrid->addWidget(asVariant, 5, 0, 1, 4);
     layout->addWidget(radar);
     layout->addStretch(1);
+    load();
+}
+
+void ReversePanel::load()
+{
+    CanObj const *can = CanObj::instance();
+    QList<QPair<QCheckBox *, bool> > flags = {
+        {m_disableRadar, can->disableRadar()},
+        {m_carHasLine, can->hadReverseLine()},
+        {m_userWantsLine, can->isShowReverseLine()},
+    };
+    for (auto const &flag : flags) {
+        const QSignalBlocker blocker(flag.first);
+        flag.first->setChecked(flag.second);
+    }
+    RadarData const &radar = *HostSim::radarData();
+    const QSignalBlocker scaleBlocker(m_scale);
+    m_scale->setValue(radar.scale);
+    for (int i = 0; i < m_distances.size(); ++i) {
+        const QSignalBlocker blocker(m_distances.at(i));
+        m_distances.at(i)->setValue(radar.distances[i]);
+    }
 }
 
 void ReversePanel::sendRadar(bool asVariant)

@@ -1,11 +1,13 @@
 #ifndef PANELS_H
 #define PANELS_H
 
-// The control panel's pages that play the car: the climate record, the
-// doors and the body warnings, reverse with radar and guide line. Each
-// writes the host's records and calls the root's operation that tells the
-// plug-in, as the head unit's framework does when the CAN-bus module
-// reports a change.
+// The pages of the window's control panel, which play the car and the head
+// unit: the vehicle and its screens, the climate record, the doors and the
+// body warnings, reverse with radar and guide line. Each writes the host's
+// data and calls the root's operation that tells the plug-in, as the head
+// unit's framework does when the CAN-bus module reports a change. Each
+// page's load() shows the host's data as it is now, for after a scenario
+// changed it.
 
 #include <QList>
 #include <QPair>
@@ -13,10 +15,36 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QSlider;
 class QSpinBox;
 class SimulatorHost;
+
+// The protocol picker (every id of the catalogue with its page family), the
+// drive side, the wallpaper, and the buttons that bring up the screens.
+class CarPanel : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit CarPanel(SimulatorHost &host, QWidget *parent = nullptr);
+
+    // Selects the protocol and tells the root.
+    void selectProtocol(int protocolId);
+
+public slots:
+    void load();
+
+private:
+    void showProtocol(int protocolId);
+
+    SimulatorHost &m_host;
+    QComboBox *m_protocols;
+    QLabel *m_family;
+    QCheckBox *m_rightDriver;
+    QCheckBox *m_wallpaper;
+    int m_shownProtocol = -1;
+};
 
 // The climate record: power, AC, auto, the temperatures and their units,
 // the fans, the air directions, seat heating and the show request.
@@ -27,7 +55,6 @@ public:
     explicit ClimateEditor(SimulatorHost &host, QWidget *parent = nullptr);
 
 public slots:
-    // Shows the host's record in the editor.
     void load();
 
 private:
@@ -62,27 +89,40 @@ class BodyPanel : public QWidget
 public:
     explicit BodyPanel(SimulatorHost &host, QWidget *parent = nullptr);
 
+public slots:
+    void load();
+
 private:
     SimulatorHost &m_host;
+    QList<QCheckBox *> m_doors;
+    QList<QPair<int, QCheckBox *> > m_warnings;
 };
 
-// Reverse on and off, the camera signal, the guide line and the radar.
+// Reverse on and off, the camera signal, the guide line and the radar. The
+// two switches of the gear say what the panel last sent; the root keeps the
+// reverse state to itself.
 class ReversePanel : public QWidget
 {
     Q_OBJECT
 public:
     explicit ReversePanel(SimulatorHost &host, QWidget *parent = nullptr);
 
+public slots:
+    void load();
+
 private:
     void sendRadar(bool asVariant);
     void sendGuideLine();
 
     SimulatorHost &m_host;
+    QCheckBox *m_disableRadar;
     QSpinBox *m_scale;
     QList<QSpinBox *> m_distances;
     QSlider *m_lineValue;
     QSpinBox *m_lineRange;
     QCheckBox *m_lineVisible;
+    QCheckBox *m_carHasLine;
+    QCheckBox *m_userWantsLine;
 };
 
 #endif // PANELS_H

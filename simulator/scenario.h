@@ -1,19 +1,17 @@
 #ifndef SCENARIO_H
 #define SCENARIO_H
 
-// The scenario language of the head-unit simulator: one command per line,
-// which sets the vehicle's state, calls the plug-in's root, gives the user's
-// input as real events, or checks what the plug-in did. A whole scenario is
-// parsed first, so that a malformed line stops it before anything ran; then
-// it runs line by line, each line ending with the pending events delivered.
-// README.md holds the reference of the commands.
+// The scenario language of the head-unit simulator, as text: one command per
+// line, which sets the vehicle's state, calls the plug-in's root, gives the
+// user's input, or checks what the plug-in did. A whole scenario is parsed
+// first, so that a malformed line stops it before anything ran; the runner
+// (scenariorunner.h) then runs it line by line. README.md holds the
+// reference of the commands.
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
-
-class SimulatorHost;
 
 namespace Scenario {
 
@@ -99,51 +97,10 @@ bool read(QString const &file, QString *name, QString *source, QString *error);
 
 // The texts that the language uses for frames: "2E 90 02 51 00 8E".
 QString hex(QByteArray const &bytes);
-
-// The exit status of a scenario run.
-enum Status { Passed = 0, Failed = 1, Malformed = 2 };
-
-struct Result
-{
-    Status status = Passed;
-    // For a failure: "FILE:LINE: expected ... got ...".
-    QString message;
-    // The files that screenshot wrote, in order.
-    QStringList screenshots;
-};
-
-class Runner
-{
-public:
-    explicit Runner(SimulatorHost &host);
-
-    // Where screenshot puts a file given by a relative path; the working
-    // directory unless set.
-    void setOutputDirectory(QString const &directory);
-    // Print each line before it runs.
-    void setTrace(bool trace);
-
-    // Runs the commands in order, up to the first failure.
-    Result run(Script const &script);
-    // Runs one command and delivers the pending events. False, with
-    // "expected ... got ..." in *failure, when it didn't hold.
-    bool execute(Command const &command, QString *failure);
-    // The files that screenshot wrote so far.
-    QStringList screenshots() const;
-
-private:
-    bool setVehicleState(Command const &command, QString *failure);
-    bool giveInput(Command const &command, QString *failure);
-    bool check(Command const &command, QString *failure);
-    bool checkPage(Command const &command, QString *failure);
-    bool checkScreen(Command const &command, QString *failure);
-    bool takeScreenshot(QString const &file, QString *failure);
-
-    SimulatorHost &m_host;
-    QString m_outputDirectory;
-    bool m_trace = false;
-    QStringList m_screenshots;
-};
+// A frame pattern of expect frame: "2E 90 ??".
+QString pattern(QList<int> const &frame);
+// A text as the language writes it: in double quotes, with \" and \\.
+QString quoted(QString const &text);
 
 } // namespace Scenario
 

@@ -421,6 +421,16 @@ void TestScenarioParser::wholeScenario()
 
     QCOMPARE(hex(QByteArray::fromHex("2e90025100ff")), QString("2E 90 02 51 00 FF"));
     QCOMPARE(hex(QByteArray()), QString());
+    // Messages write frames and texts back as the language reads them.
+    const QList<int> frame = parsed(QStringLiteral("expect frame 2e \x3F\x3F 0x0F")).frame;
+    QCOMPARE(pattern(frame), QStringLiteral("2E \x3F\x3F 0F"));
+    const QString text = QStringLiteral("say \"hi\" \\ ok");
+    const QString written = QStringLiteral("\"say \\\"hi\\\" \\\\ ok\"");
+    QCOMPARE(quoted(text), written);
+    QList<Token> tokens;
+    QString reason;
+    QVERIFY(tokenize(quoted(text), &tokens, &reason));
+    QCOMPARE(tokens.value(0).text, text);
 }
 
 // The air commands name the fields by their offsets in the head unit's

@@ -4,15 +4,18 @@
 #   # stderr: TEXT     a text that standard error must contain (repeatable)
 #   # absent: FILE     a file, relative to WORK_DIR, that the run must not write
 #   # written: FILE    a file, relative to WORK_DIR, that the run must write
+#                      (a PNG picture if its name ends in .png)
 #   # stdin            the scenario comes on standard input
+#   # args: OPTIONS    more options for the simulator, e.g. --screenshot FILE
 # Called with -DSIMULATOR=... -DSCRIPT=... -DWORK_DIR=...
 
-file(STRINGS "${SCRIPT}" header REGEX "^# (exit|stderr|absent|written|stdin)")
+file(STRINGS "${SCRIPT}" header REGEX "^# (exit|stderr|absent|written|stdin|args)")
 set(expected_status "")
 set(expected_texts "")
 set(absent_files "")
 set(written_files "")
 set(use_stdin FALSE)
+set(extra_args "")
 foreach(line IN LISTS header)
     if(line MATCHES "^# exit: ([0-9]+)$")
         set(expected_status "${CMAKE_MATCH_1}")
@@ -24,6 +27,9 @@ foreach(line IN LISTS header)
         list(APPEND written_files "${CMAKE_MATCH_1}")
     elseif(line MATCHES "^# stdin$")
         set(use_stdin TRUE)
+    elseif(line MATCHES "^# args: (.+)$")
+        separate_arguments(more UNIX_COMMAND "${CMAKE_MATCH_1}")
+        list(APPEND extra_args ${more})
     endif()
 endforeach()
 if(expected_status STREQUAL "")
@@ -33,13 +39,13 @@ endif()
 file(REMOVE_RECURSE "${WORK_DIR}")
 file(MAKE_DIRECTORY "${WORK_DIR}")
 if(use_stdin)
-    execute_process(COMMAND "${SIMULATOR}" --platform offscreen --script -
+    execute_process(COMMAND "${SIMULATOR}" --platform offscreen ${extra_args} --script -
         INPUT_FILE "${SCRIPT}" WORKING_DIRECTORY "${WORK_DIR}"
-        RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+        RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err TIMEOUT 120)
 else()
-    execute_process(COMMAND "${SIMULATOR}" --platform offscreen --script "${SCRIPT}"
+    execute_process(COMMAND "${SIMULATOR}" --platform offscreen ${extra_args} --script "${SCRIPT}"
         WORKING_DIRECTORY "${WORK_DIR}"
-        RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+        RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err TIMEOUT 120)
 endif()
 
 if(NOT status STREQUAL expected_status)
@@ -59,5 +65,11 @@ endforeach()
 foreach(file IN LISTS written_files)
     if(NOT EXISTS "${WORK_DIR}/${file}")
         message(FATAL_ERROR "${file} wasn't written")
+    endif()
+    if(file MATCHES "\\.png$")
+        file(READ "${WORK_DIR}/${file}" signature LIMIT 8 HEX)
+        if(NOT signature STREQUAL "89504e470d0a1a0a")
+            message(FATAL_ERROR "${file} is no PNG picture")
+        endif()
     endif()
 endforeach()

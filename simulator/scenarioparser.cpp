@@ -1,27 +1,15 @@
 #include "scenario.h"
 
-#include "airdata.h"
-#include "canobj.h"
-#include "carbodydata.h"
 #include "cardoordata.h"
-#include "hostsim.h"
 #include "hoststate.h"
-#include "listdata.h"
-#include "radardata.h"
+#include "keys.h"
 #include "recordfields.h"
-#include "simulatorhost.h"
+#include "rootcalls.h"
 
-#include <QAbstractItemView>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QPixmap>
-#include <QStackedWidget>
-#include <QTableView>
-#include <QTextStream>
+#include <QHash>
 
 #include <cstdio>
-#include <cstring>
 #include <limits>
 
 namespace Scenario {
@@ -122,6 +110,23 @@ bool parseNumber(Token const &token, qint64 *value)
     return true;
 }
 
+QString quoted(QString const &text)
+{
+    QString escaped = text;
+    escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    escaped.replace(QLatin1Char('"'), QLatin1String("\\\""));
+    return QLatin1Char('"') + escaped + QLatin1Char('"');
+}
+
+QString pattern(QList<int> const &frame)
+{
+    QStringList parts;
+    for (int byte : frame)
+        parts << (byte < 0 ? QStringLiteral("??")
+                           : QStringLiteral("%1").arg(byte, 2, 16, QLatin1Char('0')).toUpper());
+    return parts.join(QLatin1Char(' '));
+}
+
 QString hex(QByteArray const &bytes)
 {
     QStringList parts;
@@ -144,22 +149,6 @@ constexpr qint64 MaxWaitMs = 600000;
 // The climate record's fields lie below its byte array at 144.
 constexpr int AirRecordBytes = 144;
 
-QString patternText(QList<int> const &frame)
-{
-    QStringList parts;
-    for (int byte : frame)
-        parts << (byte < 0 ? QStringLiteral("??")
-                           : QStringLiteral("%1").arg(byte, 2, 16, QLatin1Char('0')).toUpper());
-    return parts.join(QLatin1Char(' '));
-}
-
-QString quote(QString const &text)
-{
-    QString escaped = text;
-    escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
-    escaped.replace(QLatin1Char('"'), QLatin1String("\\\""));
-    return QLatin1Char('"') + escaped + QLatin1Char('"');
-}
 
 // A value of the kind that settings and the root's variants take: true and
 // false, numbers, and texts.
@@ -206,7 +195,7 @@ public:
             return fail(what + QStringLiteral(" missing"));
         const Token token = take();
         if (!parseNumber(token, value))
-            return fail(QStringLiteral("%1 %2 is not a number").arg(what, token.quoted ? quote(token.text) : token.text));
+            return fail(QStringLiteral("%1 %2 is not a number").arg(what, token.quoted ? quoted(token.text) : token.text));
         if (*value < min || *value > max)
             return fail(QStringLiteral("%1 %2 outside %3..%4").arg(what, token.text).arg(min).arg(max));
         return true;
@@ -265,7 +254,7 @@ public:
     bool end()
     {
         if (!atEnd())
-            return fail(QStringLiteral("unexpected %1 at the end").arg(peek().quoted ? quote(peek().text) : peek().text));
+            return fail(QStringLiteral("unexpected %1 at the end").arg(peek().quoted ? quoted(peek().text) : peek().text));
         return true;
     }
 
@@ -308,37 +297,18 @@ bool fits(Reader &reader, int offset, int length, int size, QString const &what)
     return true;
 }
 
-QString usage(SimulatorHost::Operation const &op)
-{
-    QStringList parts{QStringLiteral("call"), QLatin1String(op.name)};
-    bool optional = false;
-    for (char const *p = op.parameters; *p; ++p) {
-        QString part;
-        switch (*p) {
-        case '?': optional = true; continue;
-        case 'i': part = QStringLiteral("NUMBER"); break;
-        case 'b': part = QStringLiteral("true|false"); break;
-        case 's': part = QStringLiteral("\"TEXT\""); break;
-        case 'v': part = QStringLiteral("VALUE"); break;
-        case 'r': part = QStringLiteral("[radar | int N]"); break;
-        }
-        parts << (optional ? QLatin1Char('[') + part + QLatin1Char(']') : part);
-    }
-    return parts.join(QLatin1Char(' '));
-}
-
 bool parseCall(Reader &in, Command *c)
 {
     if (!in.text(QStringLiteral("operation"), &c->name))
         return false;
-    SimulatorHost::Operation const *op = SimulatorHost::operation(c->name);
+    RootCalls::Operation const *op = RootCalls::find(c->name);
     if (!op) {
         QStringList names;
-        for (SimulatorHost::Operation const &known : SimulatorHost::operations())
+        for (RootCalls::Operation const &known : RootCalls::all())
             names << QLatin1String(known.name);
         return in.fail(QStringLiteral("no operation %1; the root has %2").arg(c->name, names.join(QStringLiteral(", "))));
     }
-    const QString form = usage(*op);
+    const QString form = RootCalls::usage(*op);
     if (qstrcmp(op->parameters, "r") == 0) {
         if (in.atEnd())
             return true;
@@ -437,7 +407,7 @@ bool parseExpect(Reader &in, Command *c)
     if (!in.text(QStringLiteral("what to expect"), &what))
         return false;
     auto rowNumber = [&] { return in.numberInto(QStringLiteral("row"), 0, IntMax, &c->numbers); };
-    auto quoted = [&](char const *name) {
+    auto textInto = [&](char const *name) {
         QString text;
         if (!in.text(QLatin1String(name), &text))
             return false;
@@ -476,7 +446,7 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("row")) {
         c->kind = Kind::ExpectRow;
-        return rowNumber() && quoted("text") && in.end();
+        return rowNumber() && textInto("text") && in.end();
     }
     if (what == QLatin1String("rowvalue")) {
         c->kind = Kind::ExpectRowValue;
@@ -484,7 +454,7 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("rowtitle")) {
         c->kind = Kind::ExpectRowTitle;
-        return rowNumber() && quoted("title") && in.end();
+        return rowNumber() && textInto("title") && in.end();
     }
     if (what == QLatin1String("rows")) {
         c->kind = Kind::ExpectRows;
@@ -492,7 +462,7 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("page")) {
         c->kind = Kind::ExpectPage;
-        return quoted("title") && in.end();
+        return textInto("title") && in.end();
     }
     if (what == QLatin1String("titles")) {
         c->kind = Kind::ExpectTitles;
@@ -500,7 +470,7 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("title")) {
         c->kind = Kind::ExpectTitle;
-        return in.numberInto(QStringLiteral("title"), 0, IntMax, &c->numbers) && quoted("text") && in.end();
+        return in.numberInto(QStringLiteral("title"), 0, IntMax, &c->numbers) && textInto("text") && in.end();
     }
     if (what == QLatin1String("shown") || what == QLatin1String("hidden")) {
         c->kind = what == QLatin1String("shown") ? Kind::ExpectShown : Kind::ExpectHidden;
@@ -508,7 +478,7 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("message")) {
         c->kind = Kind::ExpectMessage;
-        return quoted("text") && in.end();
+        return textInto("text") && in.end();
     }
     if (what == QLatin1String("nomessage")) {
         c->kind = Kind::ExpectNoMessage;
@@ -516,7 +486,7 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("command")) {
         c->kind = Kind::ExpectCommand;
-        return in.text(QStringLiteral("key"), &c->name) && quoted("value") && in.end();
+        return in.text(QStringLiteral("key"), &c->name) && textInto("value") && in.end();
     }
     if (what == QLatin1String("saved")) {
         c->kind = Kind::ExpectSaved;
@@ -529,7 +499,7 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("label")) {
         c->kind = Kind::ExpectLabel;
-        return in.text(QStringLiteral("objectName"), &c->name) && quoted("text") && in.end();
+        return in.text(QStringLiteral("objectName"), &c->name) && textInto("text") && in.end();
     }
     if (what == QLatin1String("down")) {
         c->kind = Kind::ExpectDown;
@@ -545,11 +515,11 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("visibletext")) {
         c->kind = Kind::ExpectVisibleText;
-        return quoted("text") && in.end();
+        return textInto("text") && in.end();
     }
     if (what == QLatin1String("log")) {
         c->kind = Kind::ExpectLog;
-        return quoted("text") && in.end();
+        return textInto("text") && in.end();
     }
     return in.fail(QStringLiteral("unknown expectation %1").arg(what));
 }
@@ -710,12 +680,10 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
             c->name = token.text;
             c->numbers << code;
         } else {
-            QStringList names;
-            for (HeadUnitKeys::Key const &key : HeadUnitKeys::all())
-                names << QLatin1String(key.name);
             qint64 value;
             if (!parseNumber(token, &value))
-                return in.fail(QStringLiteral("key %1 is neither a code nor one of %2").arg(token.text, names.join(QLatin1Char(' '))));
+                return in.fail(QStringLiteral("key %1 is neither a code nor one of %2")
+                                   .arg(token.text, HeadUnitKeys::names().join(QLatin1Char(' '))));
             if (!in.numberInto(QStringLiteral("key code"), 0, IntMax, &c->numbers))
                 return false;
         }
@@ -814,449 +782,6 @@ bool read(QString const &file, QString *name, QString *source, QString *error)
         return false;
     }
     *source = QString::fromUtf8(input.readAll());
-    return true;
-}
-
-// --- Running ---------------------------------------------------------------------
-
-Runner::Runner(SimulatorHost &host)
-    : m_host(host)
-{
-}
-
-void Runner::setOutputDirectory(QString const &directory)
-{
-    m_outputDirectory = directory;
-}
-
-void Runner::setTrace(bool trace)
-{
-    m_trace = trace;
-}
-
-QStringList Runner::screenshots() const
-{
-    return m_screenshots;
-}
-
-Result Runner::run(Script const &script)
-{
-    Result result;
-    for (Command const &command : script.commands) {
-        if (m_trace)
-            std::fprintf(stderr, "%s:%d: %s\n", qPrintable(script.file), command.line, qPrintable(command.source));
-        QString failure;
-        if (!execute(command, &failure)) {
-            result.status = Failed;
-            result.message = QStringLiteral("%1:%2: %3").arg(script.file).arg(command.line).arg(failure);
-            break;
-        }
-    }
-    result.screenshots = m_screenshots;
-    return result;
-}
-
-bool Runner::execute(Command const &command, QString *failure)
-{
-    bool held;
-    switch (command.kind) {
-    case Kind::Protocol: case Kind::Buf: case Kind::Buf16: case Kind::Buf32: case Kind::Text:
-    case Kind::Bytes: case Kind::Entries: case Kind::Air: case Kind::AirText: case Kind::AirType:
-    case Kind::Door: case Kind::Body: case Kind::Body16: case Kind::Body32: case Kind::Radar:
-    case Kind::Host: case Kind::Setting: case Kind::Wallpaper:
-        held = setVehicleState(command, failure);
-        break;
-    case Kind::Notify:
-        HostSim::notifyDataChanged();
-        held = true;
-        break;
-    case Kind::Call: {
-        QVariantList args = command.args;
-        if (command.texts.value(0) == QLatin1String("radar"))
-            args = {QVariant::fromValue(*HostSim::radarData())};
-        m_host.call(command.name, args);
-        held = true;
-        break;
-    }
-    case Kind::Key: case Kind::TapTitle: case Kind::TapRow: case Kind::TapBar: case Kind::TapButton:
-    case Kind::TapObject: case Kind::TapAt: case Kind::LongPress: case Kind::Wait:
-        held = giveInput(command, failure);
-        break;
-    case Kind::Screenshot:
-        held = takeScreenshot(command.texts.value(0), failure);
-        break;
-    default:
-        held = check(command, failure);
-        break;
-    }
-    SimulatorHost::settle();
-    return held;
-}
-
-bool Runner::setVehicleState(Command const &c, QString *)
-{
-    const int id = c.id == CurrentProtocol ? CanObj::id() : c.id;
-    DataBuffer buffer = HostSim::buffer(id);
-    switch (c.kind) {
-    case Kind::Protocol:
-        HostSim::setProtocolId(int(c.numbers.value(0)));
-        break;
-    case Kind::Buf:
-        for (int i = 0; i < c.numbers.size(); ++i)
-            buffer.setByte(c.offset + i, quint8(c.numbers.at(i)));
-        break;
-    case Kind::Buf16:
-        for (int i = 0; i < c.numbers.size(); ++i)
-            buffer.setWord(c.offset + 2 * i, quint16(c.numbers.at(i)));
-        break;
-    case Kind::Buf32:
-        buffer.setDword(c.offset, quint32(c.numbers.value(0)));
-        break;
-    case Kind::Text:
-        buffer.setText(c.offset, c.texts.value(0));
-        break;
-    case Kind::Bytes: {
-        QByteArray bytes;
-        for (qint64 byte : c.numbers)
-            bytes.append(char(quint8(byte)));
-        buffer.setBytes(c.offset, bytes);
-        break;
-    }
-    case Kind::Entries: {
-        QList<DateInfo> entries;
-        for (int i = 0; i < c.numbers.size(); ++i)
-            entries.append(DateInfo(quint16(c.numbers.at(i)), c.texts.value(i)));
-        buffer.setEntries(c.offset, entries);
-        break;
-    }
-    case Kind::Air:
-        for (int i = 0; i < c.numbers.size(); ++i)
-            RecordFields::setAirByte(*HostSim::airData(), c.offset + i, int(c.numbers.at(i)));
-        break;
-    case Kind::AirText:
-        RecordFields::setAirText(*HostSim::airData(), c.offset, c.texts.value(0));
-        break;
-    case Kind::AirType:
-        HostSim::airData()->airType = qint32(quint32(c.numbers.value(0)));
-        break;
-    case Kind::Door: {
-        quint8 *door = reinterpret_cast<quint8 *>(HostSim::cardoorData());
-        for (int i = 0; i < c.numbers.size(); ++i)
-            door[i] = quint8(c.numbers.at(i));
-        break;
-    }
-    case Kind::Body: case Kind::Radar: {
-        unsigned char *record = c.kind == Kind::Body
-                ? reinterpret_cast<unsigned char *>(HostSim::carbodyData())
-                : reinterpret_cast<unsigned char *>(HostSim::radarData());
-        for (int i = 0; i < c.numbers.size(); ++i)
-            record[c.offset + i] = quint8(c.numbers.at(i));
-        break;
-    }
-    case Kind::Body16: {
-        const quint16 value = quint16(c.numbers.value(0));
-        std::memcpy(reinterpret_cast<unsigned char *>(HostSim::carbodyData()) + c.offset, &value, sizeof value);
-        break;
-    }
-    case Kind::Body32: {
-        const quint32 value = quint32(c.numbers.value(0));
-        std::memcpy(reinterpret_cast<unsigned char *>(HostSim::carbodyData()) + c.offset, &value, sizeof value);
-        break;
-    }
-    case Kind::Host: {
-        const bool on = c.numbers.value(0) != 0;
-        if (c.name == QLatin1String("rightDriver"))
-            HostSim::setRightDriver(on);
-        else if (c.name == QLatin1String("showReverseLine"))
-            HostSim::setShowReverseLine(on);
-        else if (c.name == QLatin1String("hadReverseLine"))
-            HostSim::setHadReverseLine(on);
-        else
-            HostSim::setDisableRadar(on);
-        break;
-    }
-    case Kind::Setting:
-        HostSim::setSetting(c.name, c.args.value(0));
-        break;
-    case Kind::Wallpaper:
-        HostSim::setWallpaper(c.name == QLatin1String("on") ? SimulatorHost::wallpaper() : QPixmap());
-        break;
-    default:
-        break;
-    }
-    return true;
-}
-
-bool Runner::giveInput(Command const &c, QString *failure)
-{
-    QString missing;
-    switch (c.kind) {
-    case Kind::Key:
-        m_host.key(int(c.numbers.value(0)));
-        return true;
-    case Kind::TapTitle:
-        if (m_host.tapTitle(int(c.numbers.value(0)), &missing))
-            return true;
-        *failure = QStringLiteral("expected title %1 to tap got %2").arg(c.numbers.value(0)).arg(missing);
-        return false;
-    case Kind::TapRow: {
-        const SimulatorHost::Zone zone = c.name == QLatin1String("left") ? SimulatorHost::LeftZone
-                : c.name == QLatin1String("right") ? SimulatorHost::RightZone : SimulatorHost::MiddleZone;
-        if (m_host.tapRow(int(c.numbers.value(0)), zone, &missing))
-            return true;
-        *failure = QStringLiteral("expected row %1 to tap got %2").arg(c.numbers.value(0)).arg(missing);
-        return false;
-    }
-    case Kind::TapBar:
-        if (m_host.tapBar(c.name, &missing))
-            return true;
-        *failure = QStringLiteral("expected the bar's %1 button got %2").arg(c.name, missing);
-        return false;
-    case Kind::TapButton:
-        if (QWidget *button = m_host.findButton(c.texts.value(0))) {
-            m_host.tapWidget(button);
-            return true;
-        }
-        *failure = QStringLiteral("expected a visible button %1 got none").arg(quote(c.texts.value(0)));
-        return false;
-    case Kind::TapObject: case Kind::LongPress: {
-        QWidget *widget = m_host.findWidget(c.name);
-        if (!SimulatorHost::isShown(widget)) {
-            *failure = QStringLiteral("expected a visible %1 got %2").arg(c.name, widget ? QStringLiteral("hidden") : QStringLiteral("missing"));
-            return false;
-        }
-        if (c.kind == Kind::TapObject)
-            m_host.tapWidget(widget);
-        else
-            m_host.longPress(widget, int(c.numbers.value(0)));
-        return true;
-    }
-    case Kind::TapAt:
-        m_host.tapAt(QPoint(int(c.numbers.value(0)), int(c.numbers.value(1))));
-        return true;
-    case Kind::Wait:
-        SimulatorHost::wait(int(c.numbers.value(0)));
-        return true;
-    default:
-        return true;
-    }
-}
-
-bool Runner::check(Command const &c, QString *failure)
-{
-    switch (c.kind) {
-    case Kind::ExpectFrame: {
-        const QList<QByteArray> frames = m_host.pendingFrames();
-        const QString wanted = QStringLiteral("frame ") + patternText(c.frame);
-        if (frames.isEmpty()) {
-            *failure = QStringLiteral("expected %1 got no frame").arg(wanted);
-            return false;
-        }
-        const QByteArray frame = frames.first();
-        bool same = frame.size() == c.frame.size();
-        for (int i = 0; same && i < frame.size(); ++i)
-            same = c.frame.at(i) < 0 || c.frame.at(i) == quint8(frame.at(i));
-        if (!same) {
-            *failure = QStringLiteral("expected %1 got %2").arg(wanted, hex(frame));
-            return false;
-        }
-        m_host.consumeFrame();
-        return true;
-    }
-    case Kind::ExpectFrames: case Kind::ExpectNoFrame: {
-        const QList<QByteArray> frames = m_host.pendingFrames();
-        const int wanted = c.kind == Kind::ExpectNoFrame ? 0 : int(c.numbers.value(0));
-        if (frames.size() == wanted)
-            return true;
-        QStringList listed;
-        for (int i = 0; i < frames.size() && i < 8; ++i)
-            listed << hex(frames.at(i));
-        if (frames.size() > 8)
-            listed << QStringLiteral("...");
-        const QString got = QString::number(frames.size())
-                + (listed.isEmpty() ? QString() : QStringLiteral(": ") + listed.join(QStringLiteral(", ")));
-        *failure = c.kind == Kind::ExpectNoFrame
-                ? QStringLiteral("expected noframe got %1").arg(got)
-                : QStringLiteral("expected frames %1 got %2").arg(wanted).arg(got);
-        return false;
-    }
-    case Kind::DropFrames:
-        m_host.dropFrames();
-        return true;
-    case Kind::ExpectRow: case Kind::ExpectRowValue: case Kind::ExpectRowTitle: case Kind::ExpectRows:
-    case Kind::ExpectPage: case Kind::ExpectTitles: case Kind::ExpectTitle:
-        return checkPage(c, failure);
-    default:
-        return checkScreen(c, failure);
-    }
-}
-
-bool Runner::checkPage(Command const &c, QString *failure)
-{
-    const qint64 number = c.numbers.value(0);
-    const QString text = c.texts.value(0);
-    QString wanted;
-    switch (c.kind) {
-    case Kind::ExpectRow: wanted = QStringLiteral("row %1 %2").arg(number).arg(quote(text)); break;
-    case Kind::ExpectRowValue: wanted = QStringLiteral("rowvalue %1 %2").arg(number).arg(c.numbers.value(1)); break;
-    case Kind::ExpectRowTitle: wanted = QStringLiteral("rowtitle %1 %2").arg(number).arg(quote(text)); break;
-    case Kind::ExpectRows: wanted = QStringLiteral("rows %1").arg(number); break;
-    case Kind::ExpectPage: wanted = QStringLiteral("page %1").arg(quote(text)); break;
-    case Kind::ExpectTitles: wanted = QStringLiteral("titles %1").arg(number); break;
-    default: wanted = QStringLiteral("title %1 %2").arg(number).arg(quote(text)); break;
-    }
-    auto fail = [&](QString const &got) {
-        *failure = QStringLiteral("expected %1 got %2").arg(wanted, got);
-        return false;
-    };
-
-    if (c.kind == Kind::ExpectTitles || c.kind == Kind::ExpectTitle || c.kind == Kind::ExpectPage) {
-        QAbstractItemView *list = m_host.titleList();
-        if (!list || !list->model())
-            return fail(QStringLiteral("no extended view"));
-        QAbstractItemModel *titles = list->model();
-        const int count = titles->rowCount();
-        if (c.kind == Kind::ExpectTitles)
-            return count == number || fail(QString::number(count));
-        int index = int(number);
-        if (c.kind == Kind::ExpectPage) {
-            if (!m_host.currentPage())
-                return fail(QStringLiteral("no page in front"));
-            index = m_host.pageStack()->currentIndex();
-        } else if (number >= count) {
-            return fail(QStringLiteral("%1 titles").arg(count));
-        }
-        const QString title = titles->index(index, 0).data(Qt::DisplayRole).toString();
-        return title == text || fail(quote(title));
-    }
-
-    QTableView *table = m_host.pageTable();
-    QAbstractItemModel *rows = table ? table->model() : nullptr;
-    if (!rows)
-        return fail(QStringLiteral("no page in front"));
-    const int count = rows->rowCount();
-    if (c.kind == Kind::ExpectRows)
-        return count == number || fail(QString::number(count));
-    if (number >= count)
-        return fail(QStringLiteral("no row %1 (%2 rows)").arg(number).arg(count));
-    const QModelIndex row = rows->index(int(number), 0);
-    if (c.kind == Kind::ExpectRowValue) {
-        const QVariant value = row.data(ValueRole);
-        return (value.isValid() && value.toLongLong() == c.numbers.value(1))
-                || fail(value.isValid() ? value.toString() : QStringLiteral("no value"));
-    }
-    const QString shown = row.data(c.kind == Kind::ExpectRow ? DisplayValueRole : TitleRole).toString();
-    return shown == text || fail(quote(shown));
-}
-
-bool Runner::checkScreen(Command const &c, QString *failure)
-{
-    const QString text = c.texts.value(0);
-    auto fail = [&](QString const &wanted, QString const &got) {
-        *failure = QStringLiteral("expected %1 got %2").arg(wanted, got);
-        return false;
-    };
-    switch (c.kind) {
-    case Kind::ExpectShown: case Kind::ExpectHidden: {
-        QWidget *widget = m_host.part(c.name);
-        const bool shown = SimulatorHost::isShown(widget);
-        if (shown == (c.kind == Kind::ExpectShown))
-            return true;
-        return fail(QStringLiteral("%1 %2").arg(shown ? QStringLiteral("hidden") : QStringLiteral("shown"), c.name),
-                    shown ? QStringLiteral("shown") : widget ? QStringLiteral("hidden") : QStringLiteral("missing"));
-    }
-    case Kind::ExpectMessage: {
-        const QString last = HostSim::lastMessage();
-        return last == text || fail(QStringLiteral("message %1").arg(quote(text)),
-                                    last.isEmpty() ? QStringLiteral("no message") : quote(last));
-    }
-    case Kind::ExpectNoMessage:
-        return !HostSim::messageShowing()
-                || fail(QStringLiteral("nomessage"), QStringLiteral("%1 showing").arg(quote(HostSim::lastMessage())));
-    case Kind::ExpectCommand: {
-        const auto commands = m_host.pendingCommands();
-        const QString wanted = QStringLiteral("command %1 %2").arg(c.name, quote(text));
-        if (commands.isEmpty())
-            return fail(wanted, QStringLiteral("no command"));
-        const QPair<QString, QString> first = commands.first();
-        if (first.first != c.name || first.second != text)
-            return fail(wanted, QStringLiteral("%1 %2").arg(first.first, quote(first.second)));
-        m_host.consumeCommand();
-        return true;
-    }
-    case Kind::ExpectSaved: {
-        const QVariant wanted = c.args.value(0);
-        const QVariant saved = HostSim::savedUserData(c.name);
-        const QString wantedText = QStringLiteral("saved %1 %2").arg(c.name, wanted.toString());
-        if (!saved.isValid())
-            return fail(wantedText, QStringLiteral("nothing"));
-        bool savedIsNumber = false;
-        const qint64 savedNumber = saved.toLongLong(&savedIsNumber);
-        const bool same = (wanted.type() == QVariant::Int || wanted.type() == QVariant::LongLong)
-                ? savedIsNumber && savedNumber == wanted.toLongLong()
-                : saved.toString() == wanted.toString();
-        return same || fail(wantedText, saved.toString());
-    }
-    case Kind::ExpectLabel: {
-        QWidget *widget = m_host.findWidget(c.name);
-        QString shown;
-        const QString wanted = QStringLiteral("label %1 %2").arg(c.name, quote(text));
-        if (!widget || !SimulatorHost::textOf(widget, &shown))
-            return fail(wanted, widget ? QStringLiteral("%1 without text").arg(QLatin1String(widget->metaObject()->className()))
-                                       : QStringLiteral("no %1").arg(c.name));
-        return shown == text || fail(wanted, quote(shown));
-    }
-    case Kind::ExpectDown: {
-        QWidget *widget = m_host.findWidget(c.name);
-        bool down = false;
-        const QString wanted = QStringLiteral("down %1 %2").arg(c.name).arg(c.numbers.value(0));
-        if (!widget || !SimulatorHost::downStateOf(widget, &down))
-            return fail(wanted, widget ? QStringLiteral("%1, not a button").arg(QLatin1String(widget->metaObject()->className()))
-                                       : QStringLiteral("no %1").arg(c.name));
-        return down == (c.numbers.value(0) != 0) || fail(wanted, down ? QStringLiteral("1") : QStringLiteral("0"));
-    }
-    case Kind::ExpectExists: case Kind::ExpectMissing: {
-        const bool exists = m_host.findObject(c.name);
-        if (exists == (c.kind == Kind::ExpectExists))
-            return true;
-        return fail(QStringLiteral("%1 %2").arg(exists ? QStringLiteral("missing") : QStringLiteral("exists"), c.name),
-                    exists ? QStringLiteral("exists") : QStringLiteral("missing"));
-    }
-    case Kind::ExpectVisibleText: {
-        const QStringList texts = m_host.visibleTexts();
-        if (texts.contains(text))
-            return true;
-        QStringList shown;
-        for (QString const &t : texts) {
-            if (!t.isEmpty() && shown.size() < 12)
-                shown << quote(t);
-        }
-        return fail(QStringLiteral("visibletext %1").arg(quote(text)),
-                    shown.isEmpty() ? QStringLiteral("no text") : shown.join(QStringLiteral(", ")));
-    }
-    case Kind::ExpectLog: {
-        const QStringList lines = SimulatorHost::messages();
-        for (QString const &line : lines) {
-            if (line.contains(text))
-                return true;
-        }
-        return fail(QStringLiteral("log %1").arg(quote(text)), QStringLiteral("no such line among %1").arg(lines.size()));
-    }
-    default:
-        return true;
-    }
-}
-
-bool Runner::takeScreenshot(QString const &file, QString *failure)
-{
-    const QString path = QFileInfo(file).isAbsolute() || m_outputDirectory.isEmpty()
-            ? file : QDir(m_outputDirectory).filePath(file);
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    if (!m_host.screen()->grab().save(path, "PNG")) {
-        *failure = QStringLiteral("expected to write %1 got an error").arg(path);
-        return false;
-    }
-    m_screenshots << QFileInfo(path).absoluteFilePath();
     return true;
 }
 

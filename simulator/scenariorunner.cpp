@@ -1,0 +1,157 @@
+#include "scenariorunner.h"
+
+#include "eventpump.h"
+#include "hostsim.h"
+#include "radardata.h"
+#include "simulatorhost.h"
+#include "vehiclestate.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QWidget>
+
+#include <cstdio>
+
+namespace Scenario {
+
+Runner::Runner(SimulatorHost &host)
+    : m_host(host)
+    , m_expectations(host)
+{
+}
+
+void Runner::setOutputDirectory(QString const &directory)
+{
+    m_outputDirectory = directory;
+}
+
+void Runner::setTrace(bool trace)
+{
+    m_trace = trace;
+}
+
+Result Runner::run(Script const &script)
+{
+    Result result;
+    for (Command const &command : script.commands) {
+        if (m_trace)
+            std::fprintf(stderr, "%s:%d: %s\n", qPrintable(script.file), command.line, qPrintable(command.source));
+        QString failure;
+        if (!execute(command, &failure)) {
+            result.status = Failed;
+            result.message = QStringLiteral("%1:%2: %3").arg(script.file).arg(command.line).arg(failure);
+            break;
+        }
+    }
+    result.screenshots = m_screenshots;
+    return result;
+}
+
+bool Runner::execute(Command const &command, QString *failure)
+{
+    bool held = true;
+    if (VehicleState::changes(command))
+        VehicleState::apply(command);
+    else if (Expectations::isExpectation(command))
+        held = m_expectations.check(command, failure);
+    else if (command.kind == Kind::Notify)
+        HostSim::notifyDataChanged();
+    else if (command.kind == Kind::Call)
+        callRoot(command);
+    else if (command.kind == Kind::Screenshot)
+        held = screenshot(command.texts.value(0), failure);
+    else
+        held = giveInput(command, failure);
+    EventPump::settle();
+    return held;
+}
+
+void Runner::callRoot(Command const &command)
+{
+    QVariantList args = command.args;
+    // onRadarDataChanged radar: the variant holds the record as it is now.
+    if (command.texts.value(0) == QLatin1String("radar"))
+        args = {QVariant::fromValue(*HostSim::radarData())};
+    m_host.call(command.name, args);
+}
+
+bool Runner::giveInput(Command const &c, QString *failure)
+{
+    UserInput &input = m_host.input();
+    ScreenProbe const &probe = m_host.probe();
+    QString missing;
+    switch (c.kind) {
+    case Kind::Key:
+        input.key(int(c.numbers.value(0)));
+        return true;
+    case Kind::TapTitle:
+        if (input.tapTitle(int(c.numbers.value(0)), &missing))
+            return true;
+        *failure = QStringLiteral("expected title %1 to tap got %2").arg(c.numbers.value(0)).arg(missing);
+        return false;
+    case Kind::TapRow: {
+        const UserInput::Zone zone = c.name == QLatin1String("left") ? UserInput::LeftZone
+                : c.name == QLatin1String("right") ? UserInput::RightZone : UserInput::MiddleZone;
+        if (input.tapRow(int(c.numbers.value(0)), zone, &missing))
+            return true;
+        *failure = QStringLiteral("expected row %1 to tap got %2").arg(c.numbers.value(0)).arg(missing);
+        return false;
+    }
+    case Kind::TapBar:
+        if (input.tapBar(c.name, &missing))
+            return true;
+        *failure = QStringLiteral("expected the bar's %1 button got %2").arg(c.name, missing);
+        return false;
+    case Kind::TapButton:
+        if (QWidget *button = probe.findButton(c.texts.value(0))) {
+            input.tapWidget(button);
+            return true;
+        }
+        *failure = QStringLiteral("expected a visible button %1 got none").arg(quoted(c.texts.value(0)));
+        return false;
+    case Kind::TapObject: case Kind::LongPress: {
+        QWidget *widget = probe.findWidget(c.name);
+        if (!ScreenProbe::isShown(widget)) {
+            *failure = QStringLiteral("expected a visible %1 got %2")
+                           .arg(c.name, widget ? QStringLiteral("hidden") : QStringLiteral("missing"));
+            return false;
+        }
+        if (c.kind == Kind::TapObject)
+            input.tapWidget(widget);
+        else
+            input.longPress(widget, int(c.numbers.value(0)));
+        return true;
+    }
+    case Kind::TapAt: {
+        const QPoint point(int(c.numbers.value(0)), int(c.numbers.value(1)));
+        if (!m_host.screen()->rect().contains(point)) {
+            *failure = QStringLiteral("expected a point of the screen got %1 %2, outside %3x%4")
+                           .arg(point.x()).arg(point.y()).arg(m_host.screen()->width()).arg(m_host.screen()->height());
+            return false;
+        }
+        input.tapAt(point);
+        return true;
+    }
+    case Kind::Wait:
+        EventPump::wait(int(c.numbers.value(0)));
+        return true;
+    default:
+        return true;
+    }
+}
+
+bool Runner::screenshot(QString const &file, QString *failure)
+{
+    const QString path = QFileInfo(file).isAbsolute() || m_outputDirectory.isEmpty()
+            ? file : QDir(m_outputDirectory).filePath(file);
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    if (!m_host.screen()->grab().save(path, "PNG")) {
+        *failure = QStringLiteral("expected to write %1 got an error").arg(path);
+        return false;
+    }
+    m_screenshots << QFileInfo(path).absoluteFilePath();
+    return true;
+}
+
+} // namespace Scenario

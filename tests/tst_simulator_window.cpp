@@ -1,0 +1,298 @@
+// The head-unit simulator's window with the built plug-in: the screen at its
+// real size, the control panel that plays the car through the root, the
+// hardware keys, the buffer editor, and the logs of what the plug-in sent.
+// Everything is driven by mouse and key events on the window's widgets.
+
+#include "canobj.h"
+#include "catalogue.h"
+#include "eventpump.h"
+#include "hostsim.h"
+#include "mainwindow.h"
+#include "simulatorhost.h"
+#include "userinput.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+// The window's widget of that class whose text is text.
+template <typename T>
+T *withText(QWidget *root, QString const &text)
+{
+    const auto widgets = root->findChildren<T *>();
+    for (T *widget : widgets) {
+        if (widget->text() == text)
+            return widget;
+    }
+    return nullptr;
+}
+
+void click(QWidget *widget)
+{
+    QVERIFY(widget);
+    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, widget->rect().center());
+    EventPump::settle();
+}
+
+QStringList lastRow(QTreeWidget *log)
+{
+    QStringList texts;
+    if (QTreeWidgetItem *item = log->topLevelItem(log->topLevelItemCount() - 1)) {
+        for (int column = 0; column < item->columnCount(); ++column)
+            texts << item->text(column);
+    }
+    return texts;
+}
+
+} // namespace
+
+class TestSimulatorWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void screenAndProtocolPicker();
+    void screenButtonsAndKeys();
+    void carPanels();
+    void bufferEditorAndFrameLog();
+
+private:
+    QWidget *screenPart(QString const &name) const { return m_host->probe().part(name); }
+    bool shown(QString const &name) const { return ScreenProbe::isShown(screenPart(name)); }
+
+    SimulatorHost *m_host = nullptr;
+    MainWindow *m_window = nullptr;
+};
+
+void TestSimulatorWindow::initTestCase()
+{
+    m_host = new SimulatorHost;
+    QString error;
+    QVERIFY2(m_host->load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    HostSim::setReversePluginFile(SimulatorHost::defaultReversePluginFile(SimulatorHost::defaultPluginFile()));
+    m_window = new MainWindow(*m_host);
+    m_window->startDemoCar(28);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    EventPump::settle();
+}
+
+void TestSimulatorWindow::cleanupTestCase()
+{
+    delete m_window;
+    delete m_host;
+}
+
+void TestSimulatorWindow::screenAndProtocolPicker()
+{
+    // The head unit's screen lies in the window at its real size.
+    QWidget *screen = m_host->screen();
+    QCOMPARE(screen->size(), QSize(1024, 600));
+    QVERIFY(m_window->isAncestorOf(screen));
+    QVERIFY(screen->isVisible());
+
+    // Every protocol id of the catalogue, with its family, after "no vehicle".
+    auto *picker = m_window->findChild<QComboBox *>("protocolPicker");
+    QVERIFY(picker);
+    const QList<int> ids = Catalogue::protocolIds();
+    QCOMPARE(ids.size(), 74);
+    QCOMPARE(picker->count(), ids.size() + 1);
+    QCOMPARE(picker->itemData(0).toInt(), 0);
+    for (int i = 0; i < ids.size(); ++i) {
+        QCOMPARE(picker->itemData(i + 1).toInt(), ids.at(i));
+        QCOMPARE(picker->itemText(i + 1), QString("%1: family %2").arg(ids.at(i)).arg(Catalogue::familyOf(ids.at(i))));
+    }
+
+    // The demo car on protocol 28; a pick selects the next id and tells the
+    // root, whose next extended view holds that protocol's pages.
+    QCOMPARE(CanObj::id(), 28);
+    QCOMPARE(picker->currentData().toInt(), 28);
+    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("CarExView28"));
+    QTest::keyClick(picker, Qt::Key_Down);
+    QCOMPARE(CanObj::id(), 29);
+    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("CarExView29"));
+    QTest::keyClick(picker, Qt::Key_Up);
+    QCOMPARE(CanObj::id(), 28);
+
+    // A protocol chosen elsewhere shows in the picker, also one outside the
+    // catalogue.
+    HostSim::setProtocolId(125);
+    QTRY_COMPARE(picker->currentData().toInt(), 125);
+    QVERIFY(m_window->findChild<QLabel *>("pageStackName")->text().startsWith("none"));
+    HostSim::setProtocolId(28);
+    QTRY_COMPARE(picker->currentData().toInt(), 28);
+}
+
+void TestSimulatorWindow::screenButtonsAndKeys()
+{
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QVERIFY(shown("list"));
+    QCOMPARE(m_host->probe().titleList()->model()->rowCount(), 8);
+    // The keys go to the focused widget of the screen, not to the panel.
+    QVERIFY(m_host->probe().extendedView()->isAncestorOf(m_host->probe().focusTarget())
+            || m_host->probe().extendedView() == m_host->probe().focusTarget());
+
+    // The second extended view lies over the first; the back key ends it.
+    click(withText<QPushButton>(m_window, "Second extended view"));
+    QVERIFY(m_host->probe().findObject("exDialogView"));
+    click(withText<QPushButton>(m_window, "Back"));
+    QVERIFY(!m_host->probe().findObject("exDialogView"));
+    QVERIFY(shown("list"));
+
+    QString missing;
+    QVERIFY2(m_host->input().tapTitle(0, &missing), qPrintable(missing));
+    EventPump::settle();
+    QVERIFY(shown("page"));
+    click(withText<QPushButton>(m_window, "Back"));
+    QVERIFY(shown("list"));
+    // Keys that the view doesn't use go on to the head unit.
+    HostSim::clearPassedKeys();
+    click(withText<QPushButton>(m_window, "Next"));
+    QCOMPARE(HostSim::passedKeys(), QList<int>{0x110004D});
+    click(withText<QPushButton>(m_window, "Back"));
+    QVERIFY(!m_host->probe().findObject("exView"));
+
+    // The overlays on demand, and raised.
+    click(withText<QPushButton>(m_window, "Overlays"));
+    QVERIFY(shown("dialog"));
+    click(withText<QPushButton>(m_window, "Raise overlays"));
+    QVERIFY(shown("dialog"));
+}
+
+void TestSimulatorWindow::carPanels()
+{
+    // The climate record, as the editor sends it.
+    auto *showRequest = withText<QCheckBox>(m_window, "show the overlay (byte 5)");
+    QVERIFY(showRequest);
+    showRequest->setChecked(true);
+    click(withText<QPushButton>(m_window, "Send record"));
+    QVERIFY(shown("air"));
+    QString text;
+    QVERIFY(ScreenProbe::textOf(m_host->probe().findWidget("leftTempLabel"), &text));
+    QCOMPARE(text, QString("21.5\u2103"));
+    // A tap on the overlay's AC button: its climate command in the log.
+    click(m_host->probe().findWidget("acButton"));
+    auto *commands = m_window->findChild<QTreeWidget *>("climateCommandLog");
+    QTRY_COMPARE(commands->topLevelItemCount(), 1);
+    QCOMPARE(lastRow(commands).mid(1), (QStringList{"AirAC", "off"}));
+    click(withText<QPushButton>(m_window, "Hide"));
+    QVERIFY(!shown("air"));
+
+    // Doors and body warnings tell the plug-in at once.
+    auto *frontLeft = withText<QCheckBox>(m_window, "Front left door");
+    QVERIFY(frontLeft);
+    frontLeft->setChecked(true);
+    EventPump::settle();
+    QVERIFY(shown("door"));
+    bool down = false;
+    QVERIFY(ScreenProbe::downStateOf(m_host->probe().findWidget("frontLeftButton"), &down));
+    QVERIFY(down);
+    frontLeft->setChecked(false);
+    EventPump::settle();
+    QVERIFY(!shown("door"));
+    auto *seatBelt = withText<QCheckBox>(m_window, "Seat belt unfastened (byte 40)");
+    seatBelt->setChecked(true);
+    EventPump::settle();
+    QVERIFY(shown("door"));
+    QVERIFY(shown("seatBeltIcon"));
+    seatBelt->setChecked(false);
+    EventPump::settle();
+
+    // Reverse with radar; the view goes when reverse ends.
+    auto *reverse = withText<QCheckBox>(m_window, "In reverse (setReverse)");
+    reverse->setChecked(true);
+    EventPump::settle();
+    QVERIFY(shown("reverse"));
+    click(withText<QPushButton>(m_window, "Send as a variant"));
+    QVERIFY(shown("reverse"));
+    reverse->setChecked(false);
+    EventPump::settle();
+    QVERIFY(!m_host->probe().findObject("reverseView"));
+
+    // A scenario changes the records: the panels follow.
+    Scenario::Script script;
+    QString error;
+    QVERIFY(Scenario::parse("panels", "door 0 0 0 0 1 0\nbody 40 1\nexpect hidden door\n", &script, &error));
+    QCOMPARE(m_window->runScenario(script), int(Scenario::Passed));
+    QVERIFY(withText<QCheckBox>(m_window, "Trunk")->isChecked());
+    QVERIFY(!withText<QCheckBox>(m_window, "Front left door")->isChecked());
+    QVERIFY(seatBelt->isChecked());
+    QVERIFY(Scenario::parse("panels", "door 0 0 0 0 0 0\nbody 40 0\nexpect shown door\n", &script, &error));
+    QCOMPARE(m_window->runScenario(script), int(Scenario::Failed));
+    QVERIFY(!withText<QCheckBox>(m_window, "Trunk")->isChecked());
+    QVERIFY(!seatBelt->isChecked());
+    QVERIFY(m_window->statusBar()->currentMessage().startsWith("panels:3: expected"));
+}
+
+void TestSimulatorWindow::bufferEditorAndFrameLog()
+{
+    click(withText<QPushButton>(m_window, "Extended view"));
+    EventPump::settle();
+    QString missing;
+    QVERIFY2(m_host->input().tapTitle(1, &missing), qPrintable(missing));
+    EventPump::settle();
+    QTableView *rows = m_host->probe().pageTable();
+    QVERIFY(rows);
+    QCOMPARE(rows->model()->index(1, 0).data(397).toString(), QString("2"));
+
+    // A byte typed into the buffer table is written and notified: the page
+    // in front shows it.
+    auto *table = m_window->findChild<QTableView *>("bufferTable");
+    QVERIFY(table);
+    const QModelIndex treble = table->model()->index(106 / 16, 106 % 16);
+    QCOMPARE(treble.data().toString(), QString("0B"));
+    table->edit(treble);
+    auto *editor = table->findChild<QLineEdit *>();
+    QVERIFY(editor);
+    editor->selectAll();
+    QTest::keyClicks(editor, "0c");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EventPump::settle();
+    QCOMPARE(HostSim::buffer(28).byte(106), quint8(12));
+    QCOMPARE(treble.data().toString(), QString("0C"));
+    QCOMPARE(rows->model()->index(1, 0).data(397).toString(), QString("3"));
+
+    // A tap on a row's arrow: the frame in the log, with its family and
+    // command.
+    auto *frames = m_window->findChild<QTreeWidget *>("frameLog");
+    const int before = frames->topLevelItemCount();
+    QVERIFY2(m_host->input().tapRow(1, UserInput::RightZone, &missing), qPrintable(missing));
+    EventPump::settle();
+    QCOMPARE(frames->topLevelItemCount(), before + 1);
+    const QStringList row = lastRow(frames);
+    QCOMPARE(row.mid(1), (QStringList{"2E A8 02 01 0D 47", "2E", "A8"}));
+    QVERIFY(row.at(0).contains('.'));
+
+    // The command line runs any scenario command.
+    auto *line = m_window->findChild<QLineEdit *>("commandLine");
+    line->setText("tap bar back");
+    QTest::keyClick(line, Qt::Key_Return);
+    EventPump::settle();
+    QVERIFY(shown("list"));
+    line->setText("expect titles 9");
+    QTest::keyClick(line, Qt::Key_Return);
+    QVERIFY(m_window->statusBar()->currentMessage().contains("expected titles 9 got 8"));
+
+    // Family FD has the length first, and its command in byte 2.
+    for (char const *command : {"tap bar back", "protocol 67", "call showExView", "tap title 1"}) {
+        line->setText(QLatin1String(command));
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+    QCOMPARE(lastRow(frames).mid(1), (QStringList{"FD 06 90 7E 00 01 14", "FD", "90"}));
+}
+
+QTEST_MAIN(TestSimulatorWindow)
+
+#include "tst_simulator_window.moc"
