@@ -60,108 +60,73 @@ CarExViewBase *makeStack(QWidget *parent)
     return new Stack(parent);
 }
 
-// A run of protocol ids served by one page family.
-struct IdBlock
+// The page stack of each family, by the family's number.
+struct FamilyStack
 {
-    int first;
-    int last;
     int family;
     StackFactory create;
 };
 
-// In ascending order of ids, without overlaps.
-const IdBlock idBlocks[] = {
-    {28, 28, 28, makeStack<CarExView28>},
-    {29, 29, 29, makeStack<CarExView29>},
-    {30, 30, 30, makeStack<CarExView30>},
-    {31, 31, 31, makeStack<CarExView31>},
-    {32, 32, 32, makeStack<CarExView32>},
-    {33, 33, 33, makeStack<CarExView33>},
-    {34, 34, 34, makeStack<CarExView34>},
-    {35, 35, 35, makeStack<CarExView35>},
-    {36, 36, 36, makeStack<CarExView36>},
-    {37, 39, 37, makeStack<CarExView37>},
-    {40, 40, 40, makeStack<CarExView40>},
-    {42, 42, 42, makeStack<CarExView42>},
-    {43, 44, 43, makeStack<CarExView43>},
-    {45, 47, 45, makeStack<CarExView45>},
-    {48, 48, 48, makeStack<CarExView48>},
-    {49, 49, 49, makeStack<CarExView49>},
-    {50, 51, 30, makeStack<CarExView30>},
-    {53, 53, 31, makeStack<CarExView31>},
-    {54, 54, 32, makeStack<CarExView32>},
-    {55, 55, 45, makeStack<CarExView45>},
-    {56, 56, 56, makeStack<CarExView56>},
-    {57, 57, 33, makeStack<CarExView33>},
-    {60, 62, 60, makeStack<CarExView60>},
-    {64, 64, 64, makeStack<CarExView64>},
-    {65, 65, 65, makeStack<CarExView65>},
-    {66, 66, 66, makeStack<CarExView66>},
-    {67, 67, 67, makeStack<CarExView67>},
-    {68, 68, 68, makeStack<CarExView68>},
-    {69, 69, 69, makeStack<CarExView69>},
-    {70, 70, 70, makeStack<CarExView70>},
-    {71, 71, 71, makeStack<CarExView71>},
-    {72, 72, 72, makeStack<CarExView72>},
-    {74, 77, 74, makeStack<CarExView74>},
-    {78, 78, 78, makeStack<CarExView78>},
-    {79, 79, 79, makeStack<CarExView79>},
-    {80, 80, 80, makeStack<CarExView80>},
-    {81, 81, 81, makeStack<CarExView81>},
-    {82, 82, 82, makeStack<CarExView82>},
-    {84, 84, 84, makeStack<CarExView84>},
-    {85, 85, 81, makeStack<CarExView81>},
-    {86, 86, 86, makeStack<CarExView86>},
-    {87, 87, 87, makeStack<CarExView87>},
-    {88, 92, 88, makeStack<CarExView88>},
-    {93, 93, 93, makeStack<CarExView93>},
-    {94, 95, 94, makeStack<CarExView94>},
-    {96, 96, 96, makeStack<CarExView96>},
-    {97, 97, 97, makeStack<CarExView97>},
-    {98, 98, 98, makeStack<CarExView98>},
-    {99, 100, 99, makeStack<CarExView99>},
-    {101, 101, 74, makeStack<CarExView74>},
-    {102, 102, 102, makeStack<CarExView102>},
-    {103, 104, 103, makeStack<CarExView103>},
-    {105, 105, 105, makeStack<CarExView105>},
-    {122, 122, 122, makeStack<CarExView122>},
-    {123, 123, 123, makeStack<CarExView123>},
-    {124, 124, 124, makeStack<CarExView124>},
+const FamilyStack familyStacks[] = {
+    {28, makeStack<CarExView28>},
+    {29, makeStack<CarExView29>},
+    {30, makeStack<CarExView30>},
+    {31, makeStack<CarExView31>},
+    {32, makeStack<CarExView32>},
+    {33, makeStack<CarExView33>},
+    {34, makeStack<CarExView34>},
+    {35, makeStack<CarExView35>},
+    {36, makeStack<CarExView36>},
+    {37, makeStack<CarExView37>},
+    {40, makeStack<CarExView40>},
+    {42, makeStack<CarExView42>},
+    {43, makeStack<CarExView43>},
+    {45, makeStack<CarExView45>},
+    {48, makeStack<CarExView48>},
+    {49, makeStack<CarExView49>},
+    {56, makeStack<CarExView56>},
+    {60, makeStack<CarExView60>},
+    {64, makeStack<CarExView64>},
+    {65, makeStack<CarExView65>},
+    {66, makeStack<CarExView66>},
+    {67, makeStack<CarExView67>},
+    {68, makeStack<CarExView68>},
+    {69, makeStack<CarExView69>},
+    {70, makeStack<CarExView70>},
+    {71, makeStack<CarExView71>},
+    {72, makeStack<CarExView72>},
+    {74, makeStack<CarExView74>},
+    {78, makeStack<CarExView78>},
+    {79, makeStack<CarExView79>},
+    {80, makeStack<CarExView80>},
+    {81, makeStack<CarExView81>},
+    {82, makeStack<CarExView82>},
+    {84, makeStack<CarExView84>},
+    {86, makeStack<CarExView86>},
+    {87, makeStack<CarExView87>},
+    {88, makeStack<CarExView88>},
+    {93, makeStack<CarExView93>},
+    {94, makeStack<CarExView94>},
+    {96, makeStack<CarExView96>},
+    {97, makeStack<CarExView97>},
+    {98, makeStack<CarExView98>},
+    {99, makeStack<CarExView99>},
+    {102, makeStack<CarExView102>},
+    {103, makeStack<CarExView103>},
+    {105, makeStack<CarExView105>},
+    {122, makeStack<CarExView122>},
+    {123, makeStack<CarExView123>},
+    {124, makeStack<CarExView124>},
 };
-
-IdBlock const *blockOf(int protocolId)
-{
-    for (IdBlock const &block : idBlocks) {
-        if (protocolId >= block.first && protocolId <= block.last)
-            return &block;
-    }
-    return 0;
-}
 
 } // namespace
 
 CarExViewBase *createPageStack(int protocolId, QWidget *parent)
 {
-    IdBlock const *block = blockOf(protocolId);
-    return block ? block->create(parent) : 0;
-}
-
-namespace Catalogue {
-
-QList<int> protocolIds()
-{
-    QList<int> ids;
-    for (IdBlock const &block : idBlocks) {
-        for (int id = block.first; id <= block.last; ++id)
-            ids.append(id);
+    const int family = Catalogue::familyOf(protocolId);
+    for (FamilyStack const &stack : familyStacks) {
+        if (stack.family == family)
+            return stack.create(parent);
     }
-    return ids;
+    return 0;
 }
-
-int familyOf(int protocolId)
-{
-    IdBlock const *block = blockOf(protocolId);
-    return block ? block->family : 0;
-}
-
-} // namespace Catalogue
