@@ -9,21 +9,21 @@ class CarInfoItem102_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem102_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem102_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem102_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem102_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem102_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES102_H

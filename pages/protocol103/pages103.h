@@ -9,21 +9,21 @@ class CarInfoItem103_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem103_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem103_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem103_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem103_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem103_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES103_H

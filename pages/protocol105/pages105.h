@@ -9,63 +9,63 @@ class CarInfoItem105_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem105_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem105_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem105_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem105_5 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_5(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem105_6 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_6(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem105_7 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_7(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem105_8 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_8(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem105_9 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem105_9(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 #endif // PAGES105_H

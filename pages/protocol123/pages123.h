@@ -9,21 +9,21 @@ class CarInfoItem123_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem123_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem123_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem123_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem123_3 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem123_3(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 #endif // PAGES123_H

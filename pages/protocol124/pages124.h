@@ -9,14 +9,14 @@ class CarInfoItem124_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem124_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem124_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem124_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 // Not a table of rows: the page's own widgets, the remote control of the disc unit,
@@ -25,7 +25,7 @@ class CarInfoItem124_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem124_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES124_H

@@ -9,21 +9,21 @@ class CarInfoItem29_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem29_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem29_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem29_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem29_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem29_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES29_H

@@ -9,63 +9,63 @@ class CarInfoItem30_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem30_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem30_3 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_3(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem30_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem30_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem30_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem30_7 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_7(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem30_8 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_8(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem30_9 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem30_9(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES30_H

@@ -9,14 +9,14 @@ class CarInfoItem31_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem31_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem31_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem31_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 // The tyre page: its reset row opens the tyre panel.
@@ -24,7 +24,7 @@ class CarInfoItem31_3 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem31_3(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 
 signals:
     void TirePressure();
@@ -37,21 +37,21 @@ class CarInfoItem31_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem31_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem31_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem31_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem31_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem31_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES31_H

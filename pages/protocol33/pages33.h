@@ -9,63 +9,63 @@ class CarInfoItem33_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem33_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem33_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem33_4 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_4(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem33_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem33_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem33_7 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_7(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem33_8 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_8(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem33_9 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem33_9(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 #endif // PAGES33_H

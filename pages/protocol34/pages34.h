@@ -9,21 +9,21 @@ class CarInfoItem34_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem34_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem34_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem34_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem34_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem34_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES34_H

@@ -9,14 +9,14 @@ class CarInfoItem35_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem35_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem35_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem35_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES35_H

@@ -9,14 +9,14 @@ class CarInfoItem36_1 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem36_1(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem36_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem36_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES36_H

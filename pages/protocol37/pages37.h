@@ -9,42 +9,42 @@ class CarInfoItem37_1 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_1(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem37_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem37_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem37_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem37_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem37_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 // Not a table of rows: the page's own widgets, the keys of the car's own panel,
@@ -53,14 +53,14 @@ class CarInfoItem37_7 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_7(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem37_8 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_8(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 // Not a table of rows: the page's own widgets, the OnStar telephone keypad,
@@ -69,7 +69,7 @@ class CarInfoItem37_9 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem37_9(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES37_H

@@ -9,14 +9,14 @@ class CarInfoItem40_1 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem40_1(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem40_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem40_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES40_H

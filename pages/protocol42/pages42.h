@@ -10,7 +10,7 @@ class CarInfoItem42_1 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem42_1(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 
 signals:
     void TirePressure();

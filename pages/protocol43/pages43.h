@@ -9,21 +9,21 @@ class CarInfoItem43_1 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem43_1(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem43_2 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem43_2(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem43_3 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem43_3(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 #endif // PAGES43_H

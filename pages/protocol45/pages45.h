@@ -9,28 +9,28 @@ class CarInfoItem45_1 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem45_1(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem45_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem45_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem45_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem45_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem45_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem45_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES45_H

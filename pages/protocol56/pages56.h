@@ -9,28 +9,28 @@ class CarInfoItem56_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem56_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem56_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem56_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem56_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem56_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem56_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem56_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES56_H

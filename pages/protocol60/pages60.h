@@ -9,42 +9,42 @@ class CarInfoItem60_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem60_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem60_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem60_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem60_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem60_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem60_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem60_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem60_5 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem60_5(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem60_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem60_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES60_H

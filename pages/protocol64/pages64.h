@@ -9,28 +9,28 @@ class CarInfoItem64_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem64_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem64_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem64_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 // The tyre page: its reset row opens the tyre panel.
@@ -38,7 +38,7 @@ class CarInfoItem64_5 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_5(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 
 signals:
     void TirePressure();
@@ -51,21 +51,21 @@ class CarInfoItem64_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem64_7 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_7(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem64_8 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem64_8(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES64_H

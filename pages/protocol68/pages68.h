@@ -9,21 +9,21 @@ class CarInfoItem68_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem68_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem68_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem68_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem68_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem68_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES68_H

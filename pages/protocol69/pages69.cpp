@@ -1,40 +1,5 @@
 #include "pages69.h"
 
-CarInfoItem69_1::CarInfoItem69_1(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
-}
-
-CarInfoItem69_2::CarInfoItem69_2(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
-}
-
-CarInfoItem69_3::CarInfoItem69_3(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
-}
-
-CarInfoItem69_4::CarInfoItem69_4(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
-}
-
-CarInfoItem69_5::CarInfoItem69_5(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
-}
-
-CarInfoItem69_6::CarInfoItem69_6(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
-}
-
-CarInfoItem69_7::CarInfoItem69_7(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
-}
-
 void CarInfoItem69_7::OnitemBtMiddle(QModelIndex index)
 {
     middlePressed(index.row());
@@ -43,9 +8,4 @@ void CarInfoItem69_7::OnitemBtMiddle(QModelIndex index)
 const char *CarInfoItem69_7::middleSlot() const
 {
     return SLOT(OnitemBtMiddle(QModelIndex));
-}
-
-CarInfoItem69_8::CarInfoItem69_8(QString const &title, QWidget *parent)
-    : RowPage(title, parent)
-{
 }

@@ -9,49 +9,49 @@ class CarInfoItem69_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem69_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem69_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem69_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem69_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem69_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem69_7 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_7(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 public slots:
     // This page's name for the press on the middle of a row.
@@ -65,7 +65,7 @@ class CarInfoItem69_8 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem69_8(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES69_H

@@ -9,35 +9,35 @@ class CarInfoItem70_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem70_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem70_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem70_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem70_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem70_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem70_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem70_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem70_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem70_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES70_H

@@ -9,28 +9,28 @@ class CarInfoItem71_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem71_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem71_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem71_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem71_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem71_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem71_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem71_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 #endif // PAGES71_H

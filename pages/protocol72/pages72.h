@@ -9,49 +9,49 @@ class CarInfoItem72_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem72_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem72_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem72_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_5 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_5(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_6 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_6(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_7 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_7(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 // The tyre page: its reset row opens the tyre panel.
@@ -59,7 +59,7 @@ class CarInfoItem72_8 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_8(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 
 signals:
     void TirePressure();
@@ -72,49 +72,49 @@ class CarInfoItem72_9 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_9(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_10 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_10(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_11 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_11(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_12 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_12(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_13 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_13(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_14 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_14(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem72_15 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem72_15(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 #endif // PAGES72_H

@@ -9,56 +9,56 @@ class CarInfoItem74_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem74_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem74_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem74_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem74_5 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_5(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem74_6 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_6(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem74_7 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_7(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem74_8 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem74_8(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 #endif // PAGES74_H

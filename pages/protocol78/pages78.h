@@ -9,35 +9,35 @@ class CarInfoItem78_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem78_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem78_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem78_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem78_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem78_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem78_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem78_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem78_5 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem78_5(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 #endif // PAGES78_H

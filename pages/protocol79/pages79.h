@@ -9,49 +9,49 @@ class CarInfoItem79_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem79_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem79_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem79_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem79_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem79_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem79_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem79_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem79_5 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem79_5(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem79_6 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem79_6(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem79_7 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem79_7(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 #endif // PAGES79_H

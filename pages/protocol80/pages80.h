@@ -9,7 +9,7 @@ class CarInfoItem80_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem80_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -20,7 +20,7 @@ class CarInfoItem80_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem80_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.

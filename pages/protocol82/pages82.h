@@ -9,7 +9,7 @@ class CarInfoItem82_1 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem82_1(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.

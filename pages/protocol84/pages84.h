@@ -9,7 +9,7 @@ class CarInfoItem84_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem84_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.

@@ -9,7 +9,7 @@ class CarInfoItem87_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -20,7 +20,7 @@ class CarInfoItem87_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -31,7 +31,7 @@ class CarInfoItem87_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -42,7 +42,7 @@ class CarInfoItem87_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -53,7 +53,7 @@ class CarInfoItem87_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -64,7 +64,7 @@ class CarInfoItem87_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -75,7 +75,7 @@ class CarInfoItem87_7 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_7(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -86,7 +86,7 @@ class CarInfoItem87_8 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_8(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -97,7 +97,7 @@ class CarInfoItem87_9 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_9(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -108,7 +108,7 @@ class CarInfoItem87_10 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_10(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -119,7 +119,7 @@ class CarInfoItem87_11 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem87_11(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.

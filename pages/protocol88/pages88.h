@@ -9,7 +9,7 @@ class CarInfoItem88_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 
 signals:
     // Part of the page's interface; nothing listens to it.
@@ -20,49 +20,49 @@ class CarInfoItem88_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem88_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem88_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem88_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem88_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem88_7 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_7(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem88_8 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem88_8(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES88_H

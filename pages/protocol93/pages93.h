@@ -9,7 +9,7 @@ class CarInfoItem93_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem93_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES93_H

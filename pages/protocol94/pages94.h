@@ -9,7 +9,7 @@ class CarInfoItem94_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem94_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES94_H

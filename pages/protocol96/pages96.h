@@ -9,49 +9,49 @@ class CarInfoItem96_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem96_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem96_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem96_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem96_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem96_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem96_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem96_4(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem96_5 : public ClickRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem96_5(QString const &title, QWidget *parent);
+    using ClickRowPage::ClickRowPage;
 };
 
 class CarInfoItem96_6 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem96_6(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem96_7 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem96_7(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES96_H

@@ -9,49 +9,49 @@ class CarInfoItem97_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem97_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem97_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem97_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem97_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem97_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem97_4 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem97_4(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem97_5 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem97_5(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem97_6 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem97_6(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 class CarInfoItem97_7 : public MiddleRowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem97_7(QString const &title, QWidget *parent);
+    using MiddleRowPage::MiddleRowPage;
 };
 
 #endif // PAGES97_H

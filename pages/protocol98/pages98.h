@@ -9,21 +9,21 @@ class CarInfoItem98_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem98_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem98_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem98_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem98_3 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem98_3(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES98_H

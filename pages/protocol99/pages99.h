@@ -9,14 +9,14 @@ class CarInfoItem99_2 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem99_2(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 class CarInfoItem99_1 : public RowPage
 {
     Q_OBJECT
 public:
-    CarInfoItem99_1(QString const &title, QWidget *parent);
+    using RowPage::RowPage;
 };
 
 #endif // PAGES99_H
