@@ -480,42 +480,38 @@ void AirDialog27::OnCliked()
         emit onRightHeatingButton(2);
         return;
     }
+    // Each button's signal (if it has one), its key, and its value: the
+    // opposite of its state where none is given.
+    static const struct {
+        CustomImageButton *AirDialog27::*button;
+        void (AirDialog27::*signal)();
+        char const *key;
+        char const *value;
+    } commands[] = {
+        {&AirDialog27::switchButton, &AirDialog27::onSetSwitch, "AirOnOff", 0},
+        {&AirDialog27::autoButton, &AirDialog27::onsetAuto, "AirAUTO", 0},
+        {&AirDialog27::acButton, &AirDialog27::onSetAc, "AirAC", 0},
+        {&AirDialog27::innerLoopButton, &AirDialog27::onsetinnerLoop, "AirInnerLoop", 0},
+        {&AirDialog27::innerLoopQasButton, 0, "AirInnerLoopQAS", 0},
+        {&AirDialog27::fdcButton, 0, "AirFDC", 0},
+        {&AirDialog27::leftPlusButton, &AirDialog27::onSetleftPlus, "AirTempFrontLeft", "add"},
+        {&AirDialog27::leftLessButton, &AirDialog27::onSetleftLess, "AirTempFrontLeft", "sub"},
+        {&AirDialog27::rightPlusButton, &AirDialog27::onSetrightPlus, "AirTempFrontRight", "add"},
+        {&AirDialog27::rightLessButton, &AirDialog27::onSetrightLess, "AirTempFrontRight", "sub"},
+        {&AirDialog27::dualButton, &AirDialog27::onSetDUAL, "AirDUAL", 0},
+        {&AirDialog27::heatButton, 0, "AirHEAT", 0},
+    };
     CustomImageButton *button = qobject_cast<CustomImageButton *>(from);
     if (!button)
         return;
-    if (button == switchButton) {
-        emit onSetSwitch();
-        sendCommand(QStringLiteral("AirOnOff"), toggled(button));
-    } else if (button == autoButton) {
-        emit onsetAuto();
-        sendCommand(QStringLiteral("AirAUTO"), toggled(button));
-    } else if (button == acButton) {
-        emit onSetAc();
-        sendCommand(QStringLiteral("AirAC"), toggled(button));
-    } else if (button == innerLoopButton) {
-        emit onsetinnerLoop();
-        sendCommand(QStringLiteral("AirInnerLoop"), toggled(button));
-    } else if (button == innerLoopQasButton) {
-        sendCommand(QStringLiteral("AirInnerLoopQAS"), toggled(button));
-    } else if (button == fdcButton) {
-        sendCommand(QStringLiteral("AirFDC"), toggled(button));
-    } else if (button == leftPlusButton) {
-        emit onSetleftPlus();
-        sendCommand(QStringLiteral("AirTempFrontLeft"), QStringLiteral("add"));
-    } else if (button == leftLessButton) {
-        emit onSetleftLess();
-        sendCommand(QStringLiteral("AirTempFrontLeft"), QStringLiteral("sub"));
-    } else if (button == rightPlusButton) {
-        emit onSetrightPlus();
-        sendCommand(QStringLiteral("AirTempFrontRight"), QStringLiteral("add"));
-    } else if (button == rightLessButton) {
-        emit onSetrightLess();
-        sendCommand(QStringLiteral("AirTempFrontRight"), QStringLiteral("sub"));
-    } else if (button == dualButton) {
-        emit onSetDUAL();
-        sendCommand(QStringLiteral("AirDUAL"), toggled(button));
-    } else if (button == heatButton) {
-        sendCommand(QStringLiteral("AirHEAT"), toggled(button));
+    for (size_t i = 0; i < sizeof commands / sizeof commands[0]; ++i) {
+        if (button != this->*commands[i].button)
+            continue;
+        if (commands[i].signal)
+            emit (this->*commands[i].signal)();
+        sendCommand(QLatin1String(commands[i].key),
+                    commands[i].value ? QString(QLatin1String(commands[i].value)) : toggled(button));
+        return;
     }
 }
 
