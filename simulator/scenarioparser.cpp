@@ -230,6 +230,15 @@ public:
         return true;
     }
 
+    // A setting's value: true, false, a number or a text.
+    bool valueInto(QString const &what, QVariantList *values)
+    {
+        if (atEnd())
+            return fail(what + QStringLiteral(" missing"));
+        values->append(variantOf(take()));
+        return true;
+    }
+
     // One of the given words.
     bool choice(QString const &what, QStringList const &words, QString *value)
     {
@@ -490,12 +499,8 @@ bool parseExpect(Reader &in, Command *c)
     }
     if (what == QLatin1String("saved")) {
         c->kind = Kind::ExpectSaved;
-        if (!in.text(QStringLiteral("key"), &c->name))
-            return false;
-        if (in.atEnd())
-            return in.fail(QStringLiteral("value missing"));
-        c->args << variantOf(in.take());
-        return in.end();
+        return in.text(QStringLiteral("key"), &c->name) && in.valueInto(QStringLiteral("value"), &c->args)
+            && in.end();
     }
     if (what == QLatin1String("label")) {
         c->kind = Kind::ExpectLabel;
@@ -650,12 +655,8 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
     }
     if (word == QLatin1String("setting")) {
         c->kind = Kind::Setting;
-        if (!in.text(QStringLiteral("key"), &c->name))
-            return false;
-        if (in.atEnd())
-            return in.fail(QStringLiteral("value missing"));
-        c->args << variantOf(in.take());
-        return in.end();
+        return in.text(QStringLiteral("key"), &c->name) && in.valueInto(QStringLiteral("value"), &c->args)
+            && in.end();
     }
     if (word == QLatin1String("wallpaper")) {
         c->kind = Kind::Wallpaper;
