@@ -172,24 +172,28 @@ AirDialog27::AirDialog27(QWidget *parent)
         = zorvappframework::ModuleManager::self()->module(QStringLiteral("canbus"));
     QObject *canbusSignals = canbus ? canbus->signalObject() : 0;
     if (canbusSignals) {
-        connect(this, SIGNAL(onsetAuto()), canbusSignals, SIGNAL(setAuto()));
-        connect(this, SIGNAL(onsetinnerLoop()), canbusSignals, SIGNAL(setinnerLoop()));
-        connect(this, SIGNAL(onSetleftPlus()), canbusSignals, SIGNAL(SetleftPlus()));
-        connect(this, SIGNAL(onSetleftLess()), canbusSignals, SIGNAL(SetleftLess()));
-        connect(this, SIGNAL(onSetrightPlus()), canbusSignals, SIGNAL(SetrightPlus()));
-        connect(this, SIGNAL(onSetrightLess()), canbusSignals, SIGNAL(SetrightLess()));
-        connect(this, SIGNAL(onSetDUAL()), canbusSignals, SIGNAL(SetDUAL()));
-        connect(this, SIGNAL(onSetAc()), canbusSignals, SIGNAL(SetAc()));
-        connect(this, SIGNAL(onSetfrontDefrostLeftL()), canbusSignals, SIGNAL(SetfrontDefrostLeftL()));
-        connect(this, SIGNAL(onSetrearDefrostLeftL()), canbusSignals, SIGNAL(SetrearDefrostLeftL()));
-        connect(this, SIGNAL(onSetsmall()), canbusSignals, SIGNAL(Setsmall()));
-        connect(this, SIGNAL(onSetGale()), canbusSignals, SIGNAL(SetGale()));
-        connect(this, SIGNAL(onSetSwitch()), canbusSignals, SIGNAL(SetSwitch()));
-        connect(this, SIGNAL(onLeftHeatingButton(int)), canbusSignals, SIGNAL(LeftHeatingButton(int)));
-        connect(this, SIGNAL(onRightHeatingButton(int)), canbusSignals, SIGNAL(RightHeatingButton(int)));
-        connect(this, SIGNAL(onBlowOn(bool)), canbusSignals, SIGNAL(BlowOn(bool)));
-        connect(this, SIGNAL(onMediumBlow(bool)), canbusSignals, SIGNAL(MediumBlow(bool)));
-        connect(this, SIGNAL(onBlowDown(bool)), canbusSignals, SIGNAL(BlowDown(bool)));
+        static char const *const forwarded[][2] = {
+            {SIGNAL(onsetAuto()), SIGNAL(setAuto())},
+            {SIGNAL(onsetinnerLoop()), SIGNAL(setinnerLoop())},
+            {SIGNAL(onSetleftPlus()), SIGNAL(SetleftPlus())},
+            {SIGNAL(onSetleftLess()), SIGNAL(SetleftLess())},
+            {SIGNAL(onSetrightPlus()), SIGNAL(SetrightPlus())},
+            {SIGNAL(onSetrightLess()), SIGNAL(SetrightLess())},
+            {SIGNAL(onSetDUAL()), SIGNAL(SetDUAL())},
+            {SIGNAL(onSetAc()), SIGNAL(SetAc())},
+            {SIGNAL(onSetfrontDefrostLeftL()), SIGNAL(SetfrontDefrostLeftL())},
+            {SIGNAL(onSetrearDefrostLeftL()), SIGNAL(SetrearDefrostLeftL())},
+            {SIGNAL(onSetsmall()), SIGNAL(Setsmall())},
+            {SIGNAL(onSetGale()), SIGNAL(SetGale())},
+            {SIGNAL(onSetSwitch()), SIGNAL(SetSwitch())},
+            {SIGNAL(onLeftHeatingButton(int)), SIGNAL(LeftHeatingButton(int))},
+            {SIGNAL(onRightHeatingButton(int)), SIGNAL(RightHeatingButton(int))},
+            {SIGNAL(onBlowOn(bool)), SIGNAL(BlowOn(bool))},
+            {SIGNAL(onMediumBlow(bool)), SIGNAL(MediumBlow(bool))},
+            {SIGNAL(onBlowDown(bool)), SIGNAL(BlowDown(bool))},
+        };
+        for (size_t i = 0; i < sizeof forwarded / sizeof forwarded[0]; ++i)
+            connect(this, forwarded[i][0], canbusSignals, forwarded[i][1]);
     }
 }
 
