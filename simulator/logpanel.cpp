@@ -1,6 +1,7 @@
 #include "logpanel.h"
 
 #include "debuglog.h"
+#include "frames.h"
 #include "hostsim.h"
 #include "scenario.h"
 #include "simulatorhost.h"
@@ -17,7 +18,6 @@ namespace {
 // How often the panel looks at the climate commands and debug lines.
 constexpr int PollMs = 200;
 constexpr int MaxDebugLines = 5000;
-constexpr quint8 FamilyFD = 0xFD;
 
 QString timeText(qint64 ms)
 {
@@ -73,7 +73,7 @@ LogPanel::LogPanel(SimulatorHost &host, QWidget *parent)
 void LogPanel::appendFrame(qint64 ms, QByteArray const &frame)
 {
     // Family 2E has its command in byte 1, family FD (length first) in byte 2.
-    const int commandAt = !frame.isEmpty() && quint8(frame.at(0)) == FamilyFD ? 2 : 1;
+    const int commandAt = !frame.isEmpty() && quint8(frame.at(0)) == Frames::FamilyFD ? 2 : 1;
     auto *item = new QTreeWidgetItem(m_frames, {timeText(ms), Scenario::hex(frame), byteText(frame, 0),
                                                 byteText(frame, commandAt)});
     m_frames->scrollToItem(item);
