@@ -12,6 +12,19 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+namespace {
+
+// The door overlay comes back for a body notice only when one of its three
+// warnings changed: seat belt, condensate or the automatic parking fault.
+// The record's own comparison leaves the parking byte out, so it is added
+// here.
+bool sameBodyWarnings(CarbodyData const &shown, CarbodyData const &incoming)
+{
+    return shown.compareWarningPart(incoming) && shown.autoParkingFault == incoming.autoParkingFault;
+}
+
+} // namespace
+
 DialogView::DialogView(QWidget *parent)
     : QWidget(parent)
     , airView(0)
@@ -271,7 +284,7 @@ void DialogView::onCarbodyDataChanged()
     CarbodyData const *body = can->getCarbodyData();
     if (body) {
         CardoorDialog27 *door = qobject_cast<CardoorDialog27 *>(carDoorView);
-        if (door && door->getCarbodyData().compareWarningPart(*body))
+        if (door && sameBodyWarnings(door->getCarbodyData(), *body))
             return;
         CardoorData const *doorRecord = can->getCardoorData();
         const bool warn = body->isWarningState() || !doorRecord || doorRecord->isWarningState();

@@ -208,12 +208,18 @@ int main(int argc, char *argv[])
 
     SimulatorHost host;
     const QString plugin = options.plugin.isEmpty() ? SimulatorHost::defaultPluginFile() : options.plugin;
-    const QString reversePlugin = options.reversePlugin.isEmpty()
-            ? SimulatorHost::defaultReversePluginFile(plugin) : options.reversePlugin;
-    if (QFileInfo::exists(reversePlugin))
-        HostSim::setReversePluginFile(reversePlugin);
-    else if (!options.reversePlugin.isEmpty())
-        printError(QStringLiteral("%1: no such reverse plug-in; reversing shows no picture").arg(reversePlugin));
+    // A reverse plug-in named on the command line replaces the host's search:
+    // when it can't be loaded, reversing shows no picture at all.
+    if (!options.reversePlugin.isEmpty()) {
+        HostSim::setReversePluginFile(options.reversePlugin);
+        if (!QFileInfo::exists(options.reversePlugin))
+            printError(QStringLiteral("%1: no such reverse plug-in; reversing shows no picture")
+                           .arg(options.reversePlugin));
+    } else {
+        const QString reversePlugin = SimulatorHost::defaultReversePluginFile(plugin);
+        if (QFileInfo::exists(reversePlugin))
+            HostSim::setReversePluginFile(reversePlugin);
+    }
     if (!host.load(plugin, &error)) {
         printError(error);
         return StartFailed;

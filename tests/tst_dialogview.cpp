@@ -4,6 +4,7 @@
 
 #include "airdialogbase.h"
 #include "appframework.h"
+#include "cardoordialog27.h"
 #include "cardoordialogbase.h"
 #include "dialogview.h"
 #include "hostsim.h"
@@ -65,6 +66,7 @@ private slots:
     void visibilityRule();
     void climate();
     void doorAndBodyWarnings();
+    void autoParkingFault();
     void missingRecords();
     void stacking_data();
     void stacking();
@@ -204,8 +206,6 @@ void TestDialogView::doorAndBodyWarnings()
     QVERIFY(door()->isVisible());
     press(door());
     view->onCarbodyDataChanged();
-    HostSim::carbodyData()->autoParkingFault = 1;
-    view->onCarbodyDataChanged();
     QVERIFY(!door()->needShow() && !visible());
     HostSim::carbodyData()->condensateFault = 1;
     view->onCarbodyDataChanged();
@@ -214,6 +214,38 @@ void TestDialogView::doorAndBodyWarnings()
     *HostSim::carbodyData() = CarbodyData();
     view->onCarbodyDataChanged();
     QVERIFY(!door()->needShow() && !visible());
+}
+
+// The automatic parking fault counts as a warning of its own: alone it
+// brings the overlay back although the record's warning comparison leaves
+// its byte out, and when it clears the overlay goes.
+void TestDialogView::autoParkingFault()
+{
+    HostSim::cardoorData()->rearLeftDoor = 1;
+    view->onCardoorDataChanged();
+    HostSim::cardoorData()->rearLeftDoor = 0;
+    view->onCardoorDataChanged();
+    QVERIFY(door() && !visible());
+
+    auto shownBody = [this] { return qobject_cast<CardoorDialog27 *>(door())->getCarbodyData(); };
+    HostSim::carbodyData()->autoParkingFault = 1;
+    QVERIFY(shownBody().compareWarningPart(*HostSim::carbodyData()));
+    view->onCarbodyDataChanged();
+    QVERIFY(door()->isVisible());
+    QCOMPARE(shownBody().autoParkingFault, qint8(1));
+
+    // The same record again while dismissed: nothing new to tell.
+    press(door());
+    view->onCarbodyDataChanged();
+    QVERIFY(!door()->needShow() && !visible());
+
+    // Cleared while shown: the overlay goes.
+    view->onCardoorDataChanged();
+    QVERIFY(door()->isVisible());
+    HostSim::carbodyData()->autoParkingFault = 0;
+    view->onCarbodyDataChanged();
+    QVERIFY(!door()->needShow() && !visible());
+    QCOMPARE(shownBody().autoParkingFault, qint8(0));
 }
 
 // A missing record of the other kind counts as a warning; one of the

@@ -117,7 +117,8 @@ private slots:
         add("language 0x10", 114, 230, 0x10, "Russia");
         add("language 0x14", 114, 230, 0x14, "Mexico");
         add("language 0x2B", 114, 230, 0x2B, "Ukraine");
-        add("language 15 has no option", 114, 230, 15, "");
+        add("language 15 keeps its number", 114, 230, 15, "Greece");
+        add("language 50 has no option", 114, 230, 50, "");
         add("language 200 has no option", 114, 230, 200, "");
         add("choice beyond its options", 48, 160, 11, "");
         add("choice at 255", 0, 112, 255, "");
@@ -267,7 +268,9 @@ private slots:
         add("language to the last plain", 114, 230, 0x00, 0x10, true, 13, "Netherlands");
         add("language among the coded", 114, 230, 0x00, 0x14, false, 0x16, "Turkish");
         add("language top", 114, 230, 0x00, 0x2B, false, 0x2B, "Ukraine");
-        add("language from an unknown code", 114, 230, 0x00, 15, false, 0x00, "Germany");
+        add("language on from an unknown code", 114, 230, 0x00, 15, false, 0x12, "Korea");
+        add("language up from beyond the list", 114, 230, 0x00, 50, false, 0x2B, "Ukraine");
+        add("language down from beyond the list", 114, 230, 0x00, 200, true, 0x2B, "Ukraine");
     }
     void valueMaps()
     {

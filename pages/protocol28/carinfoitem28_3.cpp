@@ -125,16 +125,16 @@ int languageCode(int option)
         return languageCodes[option - FirstCodedLanguage];
     return option;
 }
-// A code that no option has shows no language rather than a wrong one.
+// The option of a language code. The first fourteen are their own codes; a
+// code that no option has keeps its own number too: the row shows the option
+// at that index where there is one, and steps go on from there.
 int languageOption(int code)
 {
-    if (code >= 0 && code < FirstCodedLanguage)
-        return code;
     for (int i = 0; i < CodedLanguages; ++i) {
         if (languageCodes[i] == code)
             return FirstCodedLanguage + i;
     }
-    return -1;
+    return code;
 }
 
 } // namespace
