@@ -1,10 +1,21 @@
 # The two entry points: `make demo` and `make test`. Both install what the
 # build needs when it is missing (tools/setup.sh), configure and build.
+# `make test-sanitize` runs the whole suite once more, built with
+# AddressSanitizer (leaks included) and UndefinedBehaviorSanitizer, with a
+# longer run of the random-input test.
 
 BUILD_DIR ?= build
+SANITIZE_DIR ?= build-sanitize
 JOBS ?= $(shell nproc)
+FUZZ_ROUNDS ?= 150
 
-.PHONY: all setup configure build test demo clean
+# A report stops the test that made it; leaks are reported at exit, where
+# only Qt's own, listed in the suppression file, are forgiven.
+SANITIZER_ENV = ASAN_OPTIONS=detect_leaks=1:halt_on_error=1:detect_stack_use_after_return=1 \
+	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+	LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp:print_suppressions=0
+
+.PHONY: all setup configure build test test-sanitize demo clean
 
 all: build
 
@@ -20,8 +31,14 @@ build: configure
 test: build
 	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 
+test-sanitize: setup
+	@cmake -S . -B $(SANITIZE_DIR) -DCARCONTROL_SANITIZE=ON -DCARCONTROL_CHECK32=OFF
+	@cmake --build $(SANITIZE_DIR) -j $(JOBS)
+	@cd $(SANITIZE_DIR) && QT_QPA_PLATFORM=offscreen CARCONTROL_FUZZ_ROUNDS=$(FUZZ_ROUNDS) $(SANITIZER_ENV) \
+		ctest --output-on-failure -j $(JOBS)
+
 demo: build
 	@sh tools/demo.sh $(BUILD_DIR)
 
 clean:
-	@rm -rf $(BUILD_DIR)
+	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR)

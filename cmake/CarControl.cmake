@@ -18,6 +18,9 @@ function(carcontrol_plugin_code target)
         CXX_STANDARD_REQUIRED ON
         CXX_EXTENSIONS OFF)
     target_include_directories(${target} PUBLIC ${CARCONTROL_PLUGIN_INCLUDE_DIRS})
+    if(CARCONTROL_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=vptr)
+    endif()
 endfunction()
 
 # Every test runs headless, with the artwork that the build draws.

@@ -95,7 +95,7 @@ void TirePressureInformation::clear()
 
 AirData::AirData()
     : airType(0),
-      hasAirConditioner(true),
+      hasAirConditioner(1),
       showRequest(0),
       reserved6(1),
       reserved15(0),

@@ -113,7 +113,7 @@ public:
     void setFunction(int byte, qint8 value);
 
     qint32 airType;                   // 0
-    bool hasAirConditioner;           // 4
+    quint8 hasAirConditioner;         // 4: zero when the model has no climate functions
     quint8 showRequest;               // 5
     quint8 reserved6;                 // 6
     quint8 leftTemperatureValid;      // 7

@@ -272,7 +272,7 @@ QComboBox *ClimateEditor::unit()
 void ClimateEditor::load()
 {
     AirData const &air = *HostSim::airData();
-    m_hasClimate->setChecked(air.hasAirConditioner);
+    m_hasClimate->setChecked(air.hasAirConditioner != 0);
     m_showRequest->setChecked(air.showRequest != 0);
     m_type->setValue(air.airType);
     for (auto const &entry : qAsConst(m_functions)) {
@@ -295,7 +295,8 @@ void ClimateEditor::load()
 void ClimateEditor::store()
 {
     AirData &air = *HostSim::airData();
-    air.hasAirConditioner = m_hasClimate->isChecked();
+    if (m_hasClimate->isChecked() != (air.hasAirConditioner != 0))
+        air.hasAirConditioner = m_hasClimate->isChecked() ? 1 : 0;
     air.showRequest = m_showRequest->isChecked() ? 1 : 0;
     air.airType = m_type->value();
     for (auto const &entry : qAsConst(m_functions))

@@ -28,6 +28,7 @@ quint8 *bytePointer(AirData &air, int offset)
     if (offset >= 32 && offset <= 34)
         return &air.extra32[offset - 32];
     switch (offset) {
+    case 4: return &air.hasAirConditioner;
     case 5: return &air.showRequest;
     case 6: return &air.reserved6;
     case 7: return &air.leftTemperatureValid;
@@ -76,7 +77,7 @@ QString *textPointer(AirData &air, int offset)
 bool isAirByte(int offset)
 {
     static AirData probe;
-    return offset == 4 || bytePointer(probe, offset);
+    return bytePointer(probe, offset);
 }
 
 bool isAirByteSigned(int offset)
@@ -87,8 +88,6 @@ bool isAirByteSigned(int offset)
 
 int airByte(AirData const &air, int offset)
 {
-    if (offset == 4)
-        return air.hasAirConditioner ? 1 : 0;
     quint8 const *byte = bytePointer(const_cast<AirData &>(air), offset);
     if (!byte)
         return 0;
@@ -97,10 +96,6 @@ int airByte(AirData const &air, int offset)
 
 bool setAirByte(AirData &air, int offset, int value)
 {
-    if (offset == 4) {
-        air.hasAirConditioner = quint8(value) != 0;
-        return true;
-    }
     quint8 *byte = bytePointer(air, offset);
     if (!byte)
         return false;

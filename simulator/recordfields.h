@@ -21,7 +21,7 @@ bool isAirByte(int offset);
 bool isAirByteSigned(int offset);
 // The field's value, signed where the field is; 0 for no byte field.
 int airByte(AirData const &air, int offset);
-// Stores the low eight bits of value (hasAirConditioner, a bool: non-zero).
+// Stores the low eight bits of value.
 // False, changing nothing, for an offset without a byte field.
 bool setAirByte(AirData &air, int offset, int value);
 

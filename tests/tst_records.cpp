@@ -47,7 +47,7 @@ void TestRecords::airDataDefaultsAndClear()
     QVERIFY(air.raw.isEmpty());
 
     // clear() leaves bytes 4 and 6 and the tyre record as they are.
-    air.hasAirConditioner = false;
+    air.hasAirConditioner = 0;
     air.reserved6 = 7;
     air.tirePressure.frontLeftPressure = QStringLiteral("2.4");
     air.tirePressure.status[TirePressureInformation::RearRight] = 3;
@@ -80,6 +80,14 @@ void TestRecords::airDataDefaultsAndClear()
     QCOMPARE(tyres.reserved34, quint8(8));
     QCOMPARE(tyres.alarm[0], quint8(0));
     QCOMPARE(tyres.rearLeftPressure, QStringLiteral("--"));
+
+    // Byte 4 is whatever the car sent, not a bool: copies keep it as it is.
+    air.hasAirConditioner = 2;
+    AirData copy(air);
+    QCOMPARE(copy.hasAirConditioner, quint8(2));
+    copy = AirData();
+    copy = air;
+    QCOMPARE(copy.hasAirConditioner, quint8(2));
 }
 
 void TestRecords::airDataCompareCountsTheClimateOnly()

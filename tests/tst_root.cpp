@@ -181,7 +181,7 @@ void TestRoot::bodyRecords()
 void TestRoot::showAirconditioner_data()
 {
     QTest::addColumn<int>("protocol");
-    QTest::addColumn<bool>("hasAirConditioner");
+    QTest::addColumn<int>("hasAirConditioner");
     QTest::addColumn<QString>("key");
     QTest::addColumn<bool>("value");
     QTest::addColumn<QString>("message");
@@ -191,20 +191,23 @@ void TestRoot::showAirconditioner_data()
     const QString noModel = "No model currently selected, please select a model in factory settings";
     const QString noClimate = "This model does not support the air conditioning function";
     const QString key = "ShowAirconditioner";
-    QTest::newRow("no vehicle") << 0 << true << key << true << noModel << false << false;
-    QTest::newRow("no vehicle, hide") << 0 << true << key << false << noModel << false << false;
-    QTest::newRow("no climate") << 28 << false << key << true << noClimate << false << false;
-    QTest::newRow("show") << 28 << true << key << true << QString() << true << true;
+    QTest::newRow("no vehicle") << 0 << 1 << key << true << noModel << false << false;
+    QTest::newRow("no vehicle, hide") << 0 << 1 << key << false << noModel << false << false;
+    QTest::newRow("no climate") << 28 << 0 << key << true << noClimate << false << false;
+    QTest::newRow("show") << 28 << 1 << key << true << QString() << true << true;
+    // The car may send any byte here: whatever isn't zero has climate.
+    QTest::newRow("show for byte 2") << 28 << 2 << key << true << QString() << true << true;
+    QTest::newRow("show for byte 255") << 28 << 255 << key << true << QString() << true << true;
     // The coordinator comes up and is asked to hide an overlay it hasn't.
-    QTest::newRow("hide") << 28 << true << key << false << QString() << true << false;
-    QTest::newRow("other case") << 0 << true << "showairconditioner" << true << QString() << false << false;
-    QTest::newRow("other key") << 28 << true << "ShowAirConditioner" << true << QString() << false << false;
+    QTest::newRow("hide") << 28 << 1 << key << false << QString() << true << false;
+    QTest::newRow("other case") << 0 << 1 << "showairconditioner" << true << QString() << false << false;
+    QTest::newRow("other key") << 28 << 1 << "ShowAirConditioner" << true << QString() << false << false;
 }
 
 void TestRoot::showAirconditioner()
 {
     QFETCH(int, protocol);
-    QFETCH(bool, hasAirConditioner);
+    QFETCH(int, hasAirConditioner);
     QFETCH(QString, key);
     QFETCH(bool, value);
     QFETCH(QString, message);
@@ -212,7 +215,7 @@ void TestRoot::showAirconditioner()
     QFETCH(bool, climate);
 
     HostSim::setProtocolId(protocol);
-    HostSim::airData()->hasAirConditioner = hasAirConditioner;
+    HostSim::airData()->hasAirConditioner = quint8(hasAirConditioner);
     car->setOtherProperty(key, value);
     QCOMPARE(HostSim::lastMessage(), message);
     QCOMPARE(dialogView() && dialogView()->isVisible(), coordinator);

@@ -439,9 +439,10 @@ void TestScenarioParser::climateRecordByOffset()
 {
     AirData air;
     QVERIFY(RecordFields::setAirByte(air, 4, 0));
-    QCOMPARE(air.hasAirConditioner, false);
+    QCOMPARE(air.hasAirConditioner, quint8(0));
     QVERIFY(RecordFields::setAirByte(air, 4, 7));
-    QCOMPARE(air.hasAirConditioner, true);
+    QCOMPARE(air.hasAirConditioner, quint8(7));
+    QCOMPARE(RecordFields::airByte(air, 4), 7);
     QVERIFY(RecordFields::setAirByte(air, 5, 1));
     QCOMPARE(air.showRequest, quint8(1));
     QVERIFY(RecordFields::setAirByte(air, 13, -1));
