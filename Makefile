@@ -9,8 +9,9 @@ SANITIZE_DIR ?= build-sanitize
 JOBS ?= $(shell nproc)
 FUZZ_ROUNDS ?= 150
 
-# A report stops the test that made it; leaks are reported at exit, where
-# only Qt's own, listed in the suppression file, are forgiven.
+# A report stops the program that made it (the build runs the artwork
+# generator too); leaks are reported at exit, where only Qt's own, listed in
+# the suppression file, are forgiven.
 SANITIZER_ENV = ASAN_OPTIONS=detect_leaks=1:halt_on_error=1:detect_stack_use_after_return=1 \
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp:print_suppressions=0
@@ -33,7 +34,7 @@ test: build
 
 test-sanitize: setup
 	@cmake -S . -B $(SANITIZE_DIR) -DCARCONTROL_SANITIZE=ON -DCARCONTROL_CHECK32=OFF
-	@cmake --build $(SANITIZE_DIR) -j $(JOBS)
+	@$(SANITIZER_ENV) cmake --build $(SANITIZE_DIR) -j $(JOBS)
 	@cd $(SANITIZE_DIR) && QT_QPA_PLATFORM=offscreen CARCONTROL_FUZZ_ROUNDS=$(FUZZ_ROUNDS) $(SANITIZER_ENV) \
 		ctest --output-on-failure -j $(JOBS)
 

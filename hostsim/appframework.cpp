@@ -125,7 +125,7 @@ void ActivityManager::reservedActivity2() {}
 
 void ActivityManager::openActivity(QString const &name, int)
 {
-    HostSim::services().activities.append(name);
+    HostSim::keepRecord(HostSim::services().activities, name);
 }
 
 ActivityManager::~ActivityManager() = default;

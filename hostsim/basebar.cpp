@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QList>
 #include <QPainter>
-#include <QPointer>
 #include <QToolButton>
 
 // The bar's look: a dark strip with a thin accent line at its bottom, the
@@ -28,19 +27,18 @@ public:
 
 namespace {
 
-// Bars in the order of their creation; destroyed bars fall out as null.
-QList<QPointer<BaseBar> > &createdBars()
+// The living bars in the order of their creation; a bar leaves the list
+// when it is destroyed.
+QList<BaseBar *> &createdBars()
 {
-    static QList<QPointer<BaseBar> > bars;
+    static QList<BaseBar *> bars;
     return bars;
 }
 
 BaseBar *lastLivingBar()
 {
-    QList<QPointer<BaseBar> > &bars = createdBars();
-    while (!bars.isEmpty() && bars.last().isNull())
-        bars.removeLast();
-    return bars.isEmpty() ? 0 : bars.last().data();
+    QList<BaseBar *> const &bars = createdBars();
+    return bars.isEmpty() ? 0 : bars.last();
 }
 
 } // namespace
@@ -83,6 +81,7 @@ BaseBar::BaseBar(QWidget *parent)
 
 BaseBar::~BaseBar()
 {
+    createdBars().removeOne(this);
     delete d;
 }
 

@@ -8,6 +8,12 @@
 
 namespace HostSim {
 
+VehicleState::~VehicleState()
+{
+    for (unsigned char *buffer : qAsConst(buffers))
+        std::free(buffer);
+}
+
 VehicleState &vehicle()
 {
     static VehicleState state;
@@ -57,7 +63,7 @@ CanObj::CanObj(QObject *parent)
     // The host's record of what went to the decoder box: every emission of
     // the signal, also those that reach it from another signal.
     connect(this, &CanObj::sendDataToCan, this, [](QByteArray const &frame) {
-        vehicle().frames.append(frame);
+        HostSim::keepRecord(vehicle().frames, frame);
     });
 }
 

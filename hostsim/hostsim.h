@@ -73,7 +73,12 @@ void notifyDataChanged();
 
 // --- What the plug-in sent ------------------------------------------------
 
-// Every frame sent to the decoder box, oldest first.
+// What the host records of the plug-in's calls (frames, climate commands,
+// passed keys, opened activities) is kept in full, up to the newest
+// MaxKeptRecords of each kind in a long run.
+const int MaxKeptRecords = 10000;
+
+// The frames sent to the decoder box, oldest first.
 QList<QByteArray> sentFrames();
 void clearSentFrames();
 

@@ -23,7 +23,16 @@ namespace HostSim {
 
 struct VehicleState
 {
+    VehicleState() = default;
+    VehicleState(VehicleState const &) = delete;
+    VehicleState &operator=(VehicleState const &) = delete;
+    // The data buffers go with the host.
+    ~VehicleState();
+
     int protocolId = 0;
+    // The data buffers handed out, by protocol id: BufferSize bytes each,
+    // made on first demand and kept for the life of the host, as the CAN-bus
+    // module keeps them.
     QHash<int, unsigned char *> buffers;
 
     AirData air;
@@ -58,6 +67,16 @@ ServiceState &services();
 
 void showHostMessage(QString const &text);
 void hideHostMessage();
+
+// Appends what the host records of a call, dropping the oldest beyond
+// MaxKeptRecords.
+template <typename T>
+void keepRecord(QList<T> &records, T const &record)
+{
+    records.append(record);
+    if (records.size() > MaxKeptRecords)
+        records.removeFirst();
+}
 
 // The size of a data buffer; any offset a protocol uses lies below it.
 constexpr int BufferSize = 8192;

@@ -127,7 +127,7 @@ BaseControl *BaseControl::getInstance()
 
 void BaseControl::keyPressEvent(QKeyEvent *event)
 {
-    services().passedKeys.append(event->key());
+    HostSim::keepRecord(services().passedKeys, event->key());
 }
 
 void BaseControl::keyReleaseEvent(QKeyEvent *)
@@ -141,7 +141,7 @@ QPixmap const *BaseControl::getBackgroundPixmap() const
 
 void BaseControl::setCanbusStateToCanbus(QString const &key, QString const &value)
 {
-    services().climateCommands.append(qMakePair(key, value));
+    HostSim::keepRecord(services().climateCommands, qMakePair(key, value));
 }
 
 void BaseControl::showScreensaverview(bool)

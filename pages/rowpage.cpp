@@ -18,6 +18,8 @@ RowPage::RowPage(QString const &title, QWidget *parent)
     , model(0)
     , m_road(SendToCan)
     , m_showsStepAtOnce(false)
+    , m_bufferId(0)
+    , m_buffer(0)
 {
 }
 
@@ -33,7 +35,12 @@ int RowPage::bufferId() const
 
 DataBuffer RowPage::buffer() const
 {
-    return DataBuffer(CanObj::instance()->getDataPointerById(bufferId()));
+    const int id = bufferId();
+    if (!m_buffer || id != m_bufferId) {
+        m_buffer = CanObj::instance()->getDataPointerById(id);
+        m_bufferId = id;
+    }
+    return DataBuffer(m_buffer);
 }
 
 Row const &RowPage::rowSpec(int row) const

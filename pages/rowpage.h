@@ -77,6 +77,11 @@ private:
     QList<Row> m_rows;
     SendRoad m_road;
     bool m_showsStepAtOnce;
+    // The buffer of m_bufferId: the module keeps each protocol's buffer at
+    // one address for as long as it runs, so a page looks it up once per id
+    // instead of once per row.
+    mutable int m_bufferId;
+    mutable unsigned char *m_buffer;
 };
 
 // Pages whose rows are buttons in their middle strip, under the two slot

@@ -17,6 +17,8 @@ namespace {
 
 // How often the panel looks at the climate commands and debug lines.
 constexpr int PollMs = 200;
+// What the panel keeps of a long run: the newest frames and debug lines.
+constexpr int MaxFrames = 5000;
 constexpr int MaxDebugLines = 5000;
 
 QString timeText(qint64 ms)
@@ -76,6 +78,8 @@ void LogPanel::appendFrame(qint64 ms, QByteArray const &frame)
     const int commandAt = !frame.isEmpty() && quint8(frame.at(0)) == Frames::FamilyFD ? 2 : 1;
     auto *item = new QTreeWidgetItem(m_frames, {timeText(ms), Scenario::hex(frame), byteText(frame, 0),
                                                 byteText(frame, commandAt)});
+    while (m_frames->topLevelItemCount() > MaxFrames)
+        delete m_frames->takeTopLevelItem(0);
     m_frames->scrollToItem(item);
 }
 
@@ -94,7 +98,7 @@ void LogPanel::poll()
     const QStringList lines = DebugLog::since(m_linesShown);
     for (QString const &line : lines)
         m_debug->appendPlainText(line);
-    m_linesShown += lines.size();
+    m_linesShown = DebugLog::end();
 }
 
 void LogPanel::clear()

@@ -31,7 +31,7 @@ private:
     QTreeWidget *m_commands;
     QPlainTextEdit *m_debug;
     int m_commandsShown = 0;
-    int m_linesShown = 0;
+    qint64 m_linesShown = 0;
 };
 
 #endif // LOGPANEL_H
