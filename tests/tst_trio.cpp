@@ -19,7 +19,8 @@ using namespace PageTest;
 
 namespace {
 
-// A member as the decoder box's documentation lists it.
+// A member: its page classes, their stack indices, its offsets and the
+// lengths of its lists.
 struct Member
 {
     int protocol;
@@ -174,8 +175,6 @@ QList<int> distinct(std::function<int(Member const &)> const &field)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(QList<int>)
 
 class TestTrio : public QObject
 {

@@ -148,8 +148,8 @@ Row lock(const char *title)
 
 Row pulses(const char *title)
 {
-    // The range is kept as the decoder box's documentation gives it, though
-    // a 16-bit count never reaches it.
+    // The range stands as the pages have always shown it, though a 16-bit
+    // count never reaches its top.
     return Row::of(NumberKind, title, {0, 71535});
 }
 
