@@ -2,28 +2,29 @@
 #define PAGES105_H
 
 #include "rowpage.h"
+#include "shared/triopages.h"
 
 // The pages of the family of protocol 105, in the order of the stack.
 
-class CarInfoItem105_1 : public RowPage
+class CarInfoItem105_1 : public VoiceFeedbackPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem105_1(QString const &title, QWidget *parent) : VoiceFeedbackPage(title, parent, 105) {}
 };
 
-class CarInfoItem105_2 : public RowPage
+class CarInfoItem105_2 : public FunctionRecognitionPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem105_2(QString const &title, QWidget *parent) : FunctionRecognitionPage(title, parent, 105) {}
 };
 
-class CarInfoItem105_3 : public RowPage
+class CarInfoItem105_3 : public VehicleInformationPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem105_3(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 105) {}
 };
 
 class CarInfoItem105_4 : public MiddleRowPage

@@ -2,6 +2,7 @@
 #define PAGES33_H
 
 #include "rowpage.h"
+#include "shared/triopages.h"
 
 // The pages of the family of protocols 33 and 57, in the order of the stack.
 
@@ -12,18 +13,18 @@ public:
     using RowPage::RowPage;
 };
 
-class CarInfoItem33_2 : public RowPage
+class CarInfoItem33_2 : public VoiceFeedbackPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem33_2(QString const &title, QWidget *parent) : VoiceFeedbackPage(title, parent, 33) {}
 };
 
-class CarInfoItem33_3 : public RowPage
+class CarInfoItem33_3 : public FunctionRecognitionPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem33_3(QString const &title, QWidget *parent) : FunctionRecognitionPage(title, parent, 33) {}
 };
 
 class CarInfoItem33_4 : public ClickRowPage
@@ -40,11 +41,11 @@ public:
     using RowPage::RowPage;
 };
 
-class CarInfoItem33_6 : public RowPage
+class CarInfoItem33_6 : public VehicleInformationPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem33_6(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 33) {}
 };
 
 class CarInfoItem33_7 : public ClickRowPage

@@ -12,18 +12,21 @@ public:
     using RowPage::RowPage;
 };
 
-class CarInfoItem64_2 : public RowPage
+// The voice, function and vehicle pages are those that seventeen families share.
+#include "shared/triopages.h"
+
+class CarInfoItem64_2 : public VoiceFeedbackPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem64_2(QString const &title, QWidget *parent) : VoiceFeedbackPage(title, parent, 64) {}
 };
 
-class CarInfoItem64_3 : public RowPage
+class CarInfoItem64_3 : public FunctionRecognitionPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem64_3(QString const &title, QWidget *parent) : FunctionRecognitionPage(title, parent, 64) {}
 };
 
 class CarInfoItem64_4 : public MiddleRowPage
@@ -47,11 +50,11 @@ protected:
     void middlePressed(int row);
 };
 
-class CarInfoItem64_6 : public RowPage
+class CarInfoItem64_6 : public VehicleInformationPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem64_6(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 64) {}
 };
 
 class CarInfoItem64_7 : public RowPage

@@ -2,28 +2,29 @@
 #define PAGES65_H
 
 #include "rowpage.h"
+#include "shared/triopages.h"
 
 // The pages of the family of protocol 65, in the order of the stack.
 
-class CarInfoItem65_1 : public RowPage
+class CarInfoItem65_1 : public VoiceFeedbackPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem65_1(QString const &title, QWidget *parent) : VoiceFeedbackPage(title, parent, 65) {}
 };
 
-class CarInfoItem65_2 : public RowPage
+class CarInfoItem65_2 : public FunctionRecognitionPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem65_2(QString const &title, QWidget *parent) : FunctionRecognitionPage(title, parent, 65) {}
 };
 
-class CarInfoItem65_3 : public RowPage
+class CarInfoItem65_3 : public VehicleInformationPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem65_3(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 65) {}
 };
 
 class CarInfoItem65_4 : public MiddleRowPage

@@ -5,25 +5,28 @@
 
 // The pages of the family of protocol 67, in the order of the stack.
 
-class CarInfoItem67_1 : public RowPage
+// The voice, function and vehicle pages are those that seventeen families share.
+#include "shared/triopages.h"
+
+class CarInfoItem67_1 : public VoiceFeedbackPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem67_1(QString const &title, QWidget *parent) : VoiceFeedbackPage(title, parent, 67) {}
 };
 
-class CarInfoItem67_2 : public RowPage
+class CarInfoItem67_2 : public FunctionRecognitionPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem67_2(QString const &title, QWidget *parent) : FunctionRecognitionPage(title, parent, 67) {}
 };
 
-class CarInfoItem67_3 : public RowPage
+class CarInfoItem67_3 : public VehicleInformationPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem67_3(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 67) {}
 };
 
 class CarInfoItem67_4 : public RowPage

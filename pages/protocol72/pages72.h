@@ -5,25 +5,28 @@
 
 // The pages of the family of protocol 72, in the order of the stack.
 
-class CarInfoItem72_1 : public RowPage
+// The voice, function and vehicle pages are those that seventeen families share.
+#include "shared/triopages.h"
+
+class CarInfoItem72_1 : public VoiceFeedbackPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem72_1(QString const &title, QWidget *parent) : VoiceFeedbackPage(title, parent, 72) {}
 };
 
-class CarInfoItem72_2 : public RowPage
+class CarInfoItem72_2 : public FunctionRecognitionPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem72_2(QString const &title, QWidget *parent) : FunctionRecognitionPage(title, parent, 72) {}
 };
 
-class CarInfoItem72_3 : public RowPage
+class CarInfoItem72_3 : public VehicleInformationPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem72_3(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 72) {}
 };
 
 class CarInfoItem72_4 : public MiddleRowPage

@@ -2,28 +2,29 @@
 #define PAGES78_H
 
 #include "rowpage.h"
+#include "shared/triopages.h"
 
 // The pages of the family of protocol 78, in the order of the stack.
 
-class CarInfoItem78_1 : public RowPage
+class CarInfoItem78_1 : public VoiceFeedbackPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem78_1(QString const &title, QWidget *parent) : VoiceFeedbackPage(title, parent, 78) {}
 };
 
-class CarInfoItem78_2 : public RowPage
+class CarInfoItem78_2 : public FunctionRecognitionPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem78_2(QString const &title, QWidget *parent) : FunctionRecognitionPage(title, parent, 78) {}
 };
 
-class CarInfoItem78_3 : public RowPage
+class CarInfoItem78_3 : public VehicleInformationPage
 {
     Q_OBJECT
 public:
-    using RowPage::RowPage;
+    CarInfoItem78_3(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 78) {}
 };
 
 class CarInfoItem78_4 : public MiddleRowPage
