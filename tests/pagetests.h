@@ -36,6 +36,14 @@ inline QByteArray frame(QString const &text)
     return bytes;
 }
 
+inline QList<QByteArray> frames(QStringList const &texts)
+{
+    QList<QByteArray> list;
+    for (QString const &text : texts)
+        list << frame(text);
+    return list;
+}
+
 inline QString hex(QList<QByteArray> const &frames)
 {
     QStringList texts;
@@ -90,6 +98,7 @@ public:
     QString title(int row) const { return index(row).data(TitleRole).toString(); }
     QString shown(int row) const { return index(row).data(DisplayValueRole).toString(); }
     int value(int row) const { return index(row).data(ValueRole).toInt(); }
+    bool adjustable(int row) const { return index(row).data(AdjustableRole).toBool(); }
 
     void tap(int row, Zone zone) { PageTest::tap(view, row, zone); }
     // A step that no arrow can give: a read-only row reached by other means.
