@@ -2,7 +2,7 @@
 
 #include "airdata.h"
 #include "canobj.h"
-#include "frames67.h"
+#include "family67.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "carinfoitem67_13.h"
 
 #include "datasavecontrol.h"
-#include "frames67.h"
+#include "family67.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "carinfoitem67_7.h"
 
-#include "frames67.h"
+#include "family67.h"
 
 CarInfoItem67_7::CarInfoItem67_7(QString const &title, QWidget *parent)
     : RowPage(title, parent)

@@ -1,6 +1,6 @@
 #include "carinfoitem67_8.h"
 
-#include "frames67.h"
+#include "family67.h"
 
 namespace {
 

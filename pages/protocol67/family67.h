@@ -1,5 +1,5 @@
-#ifndef FRAMES67_H
-#define FRAMES67_H
+#ifndef FAMILY67_H
+#define FAMILY67_H
 
 #include "frames.h"
 #include "row.h"
@@ -54,4 +54,4 @@ inline int codeAt(int index, int const *codes, int count, int fallback)
 
 } // namespace Family67
 
-#endif // FRAMES67_H
+#endif // FAMILY67_H
