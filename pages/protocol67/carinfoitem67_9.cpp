@@ -10,13 +10,20 @@ const int FirstByte = 219;
 enum Row67_9 {
     AppointmentWay = 0,
     AppointmentFirst = 1,
+    AppointmentStart = 1,
+    AppointmentEnd = 3,
+    AppointmentSunday = 5,
     AppointmentLast = 11,
     TimeSetting1First = 12,
     TimeSetting1Last = 21,
     TimeSetting2First = 22,
     TimeSetting2Last = 31,
+    ScheduledStart = 32,
+    ScheduledEnd = 34,
     ReservationSwitch = 36,
     DefrostSwitch = 37,
+    ReservedTime = 38,
+    DiscountedTime = 39,
     PileCurrent = 40,
     PortableCurrent = 41,
     AirTemperature = 42
@@ -74,8 +81,8 @@ int weekdays(DataBuffer const &data, int sundayByte)
 // FD 08 A9 02: the appointment's start, end and days.
 QByteArray appointmentGroup(DataBuffer const &data)
 {
-    return Family67::frame(0xA9, {0x02, packedTime(data, byteOf(1)), packedTime(data, byteOf(3)),
-                                  weekdays(data, byteOf(5))});
+    return Family67::frame(0xA9, {0x02, packedTime(data, byteOf(AppointmentStart)),
+                                  packedTime(data, byteOf(AppointmentEnd)), weekdays(data, byteOf(AppointmentSunday))});
 }
 
 // FD 07 A9 05 or 06: a time setting's time, its days and its switch in bit 7.
@@ -92,14 +99,17 @@ QByteArray chargingGroup(DataBuffer const &data, int id)
     case ReservationSwitch:
     case DefrostSwitch:
     case AirTemperature:
-        return Family67::frame(0xA9, {0x07, data.byte(byteOf(42)) + 0x40 * data.byte(byteOf(37))
-                                                + 0x80 * data.byte(byteOf(36))});
+        return Family67::frame(0xA9, {0x07, data.byte(byteOf(AirTemperature))
+                                                + 0x40 * data.byte(byteOf(DefrostSwitch))
+                                                + 0x80 * data.byte(byteOf(ReservationSwitch))});
     case PileCurrent:
     case PortableCurrent:
-        return Family67::frame(0xA9, {0x03, data.byte(byteOf(41)) + 4 * data.byte(byteOf(40))});
+        return Family67::frame(0xA9, {0x03, data.byte(byteOf(PortableCurrent))
+                                                + 4 * data.byte(byteOf(PileCurrent))});
     default:
-        return Family67::frame(0xA9, {0x04, data.byte(byteOf(39)) + 2 * data.byte(byteOf(38)),
-                                      packedTime(data, byteOf(32)), packedTime(data, byteOf(34))});
+        return Family67::frame(0xA9, {0x04, data.byte(byteOf(DiscountedTime)) + 2 * data.byte(byteOf(ReservedTime)),
+                                      packedTime(data, byteOf(ScheduledStart)),
+                                      packedTime(data, byteOf(ScheduledEnd))});
     }
 }
 
