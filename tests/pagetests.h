@@ -22,25 +22,46 @@
 
 namespace PageTest {
 
-// "2E C6 02 45 04 ck": the checksum slot filled by the decoder box's rule,
-// 0xFF XOR the low byte of the sum of bytes 1 to size - 2.
-inline QByteArray frame(QString const &text)
+// A frame written as in the protocols' tables, "FD 06 83 01 02 ck ck", with
+// the checksum slots filled by the decoder box's rule: 2E frames end in 0xFF
+// XOR the low byte of the sum of bytes 1 to size - 2; FD frames of protocol
+// 67 in the 16-bit sum of bytes 1 to size - 3, high byte first; other FD
+// frames in the low byte of the sum of bytes 1 to size - 2.
+inline QByteArray frame(int protocol, QString const &text)
 {
     QByteArray bytes;
     for (QString const &token : text.split(' ', Qt::SkipEmptyParts))
         bytes.append(token == "ck" ? '\0' : char(token.toInt(nullptr, 16)));
-    unsigned sum = 0;
-    for (int i = 1; i < bytes.size() - 1; ++i)
-        sum += quint8(bytes.at(i));
-    bytes[bytes.size() - 1] = char(0xFF ^ (sum & 0xFF));
+    const int size = bytes.size();
+    auto sum = [&bytes](int first, int last) {
+        unsigned total = 0;
+        for (int i = first; i <= last; ++i)
+            total += quint8(bytes.at(i));
+        return total;
+    };
+    if (quint8(bytes.at(0)) == 0x2E) {
+        bytes[size - 1] = char(0xFF ^ (sum(1, size - 2) & 0xFF));
+    } else if (protocol == 67) {
+        const unsigned total = sum(1, size - 3) & 0xFFFF;
+        bytes[size - 2] = char(total >> 8);
+        bytes[size - 1] = char(total & 0xFF);
+    } else {
+        bytes[size - 1] = char(sum(1, size - 2) & 0xFF);
+    }
     return bytes;
 }
 
-inline QList<QByteArray> frames(QStringList const &texts)
+// A frame of a protocol with one checksum byte.
+inline QByteArray frame(QString const &text)
+{
+    return frame(0, text);
+}
+
+inline QList<QByteArray> frames(QStringList const &texts, int protocol = 0)
 {
     QList<QByteArray> list;
     for (QString const &text : texts)
-        list << frame(text);
+        list << frame(protocol, text);
     return list;
 }
 

@@ -29,74 +29,16 @@ public:
     CarInfoItem67_3(QString const &title, QWidget *parent) : VehicleInformationPage(title, parent, 67) {}
 };
 
-class CarInfoItem67_4 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_5 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_6 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_7 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_8 : public MiddleRowPage
-{
-    Q_OBJECT
-public:
-    using MiddleRowPage::MiddleRowPage;
-};
-
-class CarInfoItem67_9 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_10 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_11 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_12 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
-
-class CarInfoItem67_13 : public RowPage
-{
-    Q_OBJECT
-public:
-    using RowPage::RowPage;
-};
+// The pages of the family's own, each in its files.
+#include "carinfoitem67_4.h"
+#include "carinfoitem67_5.h"
+#include "carinfoitem67_6.h"
+#include "carinfoitem67_7.h"
+#include "carinfoitem67_8.h"
+#include "carinfoitem67_9.h"
+#include "carinfoitem67_10.h"
+#include "carinfoitem67_11.h"
+#include "carinfoitem67_12.h"
+#include "carinfoitem67_13.h"
 
 #endif // PAGES67_H

@@ -1,0 +1,19 @@
+#ifndef CARINFOITEM67_12_H
+#define CARINFOITEM67_12_H
+
+#include "rowpage.h"
+
+// The tyres, from the tyre record inside the climate record: read-only.
+class CarInfoItem67_12 : public RowPage
+{
+    Q_OBJECT
+public:
+    CarInfoItem67_12(QString const &title, QWidget *parent);
+
+protected:
+    QList<Row> rowTable() const;
+    // No arrow reaches it; the page keeps the bare frame.
+    void valueStepped(int row, int value);
+};
+
+#endif // CARINFOITEM67_12_H
