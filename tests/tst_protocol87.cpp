@@ -174,7 +174,8 @@ private slots:
         QCOMPARE(p.tapped(13, true), fd("FD 06 82 82 04 B0 ck"));
         QCOMPARE(p.tapped(14, false), fd("FD 06 82 A2 04 B0 ck"));
         QCOMPARE(p.tapped(16, true), fd("FD 06 82 A1 04 B0 ck"));
-        QCOMPARE(p.tapped(15, true), fd("FD 06 82 A1 00 4F ck")); // the row still shows 80
+        // The step starts from the row as shown, 80, not from the buffer.
+        QCOMPARE(p.tapped(15, true), fd("FD 06 82 A1 00 4F ck"));
         buffer().setWord(64, 3000);
         p.page()->ondataChanged();
         QCOMPARE(p.tapped(15, false), fd("FD 06 82 A1 0B B8 ck"));
@@ -195,6 +196,11 @@ private slots:
         QCOMPARE(p.tapped(0, false), QString());
         QCOMPARE(p.changedRows([] { setBytes(72, {31}); setBytes(75, {15}); }), (QList<int>{4, 7}));
         QCOMPARE(p.shown(4), QString("31"));
+        QCOMPARE(p.tapped(4, false), fd("FD 05 80 0B 1F ck"));
+
+        // The volume at its top and muted: the top bit over 30.
+        QCOMPARE(p.changedRows([] { setBytes(76, {1, 30}); }), (QList<int>{8, 9}));
+        QCOMPARE(p.tapped(9, false), fd("FD 04 C4 9E ck"));
     }
 
     // The car model and its configuration go out as a pair, and only with a
@@ -219,7 +225,6 @@ private slots:
         add("compass", 2, 7, false, "FD 04 A9 0A ck");
         add("mute", 2, 8, false, "FD 04 C4 94 ck");
         add("volume", 2, 9, false, "FD 04 C4 15 ck");
-        add("volume at top", 30, 9, false, "FD 04 C4 1E ck");
         add("meter left", 2, 10, false, "FD 05 8C 02 08 ck");
         add("meter right at last", 2, 11, false, "FD 05 8C 01 08 ck");
     }
@@ -229,7 +234,7 @@ private slots:
         QFETCH(int, row);
         QFETCH(bool, down);
         QFETCH(QString, expected);
-        setBytes(68, {12, model, 1, 1, 17, 0, 4, 9, 0, model == 30 ? 30 : 20, 1, 8});
+        setBytes(68, {12, model, 1, 1, 17, 0, 4, 9, 0, 20, 1, 8});
         Page87 p(Body);
         QCOMPARE(p.tapped(row, down), fd(expected));
         if (row == 1 || row == 2) {
