@@ -27,6 +27,7 @@ Row::Row(int kind, const char *title)
     , m_sub(0)
     , m_frame(0)
     , m_sendMap(0)
+    , m_group(0)
 {
 }
 
@@ -180,6 +181,12 @@ Row &Row::sendAs(ValueMap map)
     return *this;
 }
 
+Row &Row::group(GroupRule rule)
+{
+    m_group = rule;
+    return *this;
+}
+
 QVariant Row::value(DataBuffer const &buffer) const
 {
     QVariant raw;
@@ -259,4 +266,28 @@ QByteArray Row::frameFor(int key, int value) const
     if (m_command >= 0)
         return Frames::make2E(m_command, {m_sub, sent});
     return QByteArray();
+}
+
+void Row::store(DataBuffer &buffer, int value) const
+{
+    switch (m_source) {
+    case ByteSource: {
+        const int place = (m_mask & 0xFF) << m_shift;
+        const int byte = (buffer.byte(m_offset) & ~place) | ((value << m_shift) & place);
+        buffer.setByte(m_offset, quint8(byte));
+        break;
+    }
+    case WordSource:
+        buffer.setWord(m_offset, quint16(value));
+        break;
+    case NoSource:
+    case TextSource:
+    case ReaderSource:
+        break;
+    }
+}
+
+QByteArray Row::groupFrameFor(DataBuffer const &buffer, int key) const
+{
+    return m_group ? m_group(buffer, key) : QByteArray();
 }

@@ -32,6 +32,10 @@ public:
     // A row's own step: the value that a step down (or up) from current
     // lands on, in place of the step and the clamp.
     typedef int (*StepRule)(DataBuffer const &buffer, int current, bool down);
+    // The frame of a row that sends its whole group: packed from the buffer
+    // after the stepped value was written into the row's own place there.
+    // key as for FrameRule; an empty array sends nothing.
+    typedef QByteArray (*GroupRule)(DataBuffer const &buffer, int key);
 
     // How a step is kept in range.
     enum Clamp {
@@ -83,6 +87,9 @@ public:
     Row &frame(FrameRule rule);
     // The stepped value goes out translated by map.
     Row &sendAs(ValueMap map);
+    // A step is written into the row's place in the buffer (its bits of a
+    // byte, or its 16-bit value), and the frame packed from there by rule.
+    Row &group(GroupRule rule);
 
     // --- Read by the page engine ---
     int kind() const { return m_kind; }
@@ -104,6 +111,12 @@ public:
     int step(int current, bool down, QList<QVariant> const &options, DataBuffer const &buffer) const;
     // The frame for a stepped value, or an empty array if the row sends none.
     QByteArray frameFor(int key, int value) const;
+    bool sendsGroup() const { return m_group != 0; }
+    // Writes value into the row's place in the buffer, cut to the place's
+    // width; a row without a byte or 16-bit source has no place.
+    void store(DataBuffer &buffer, int value) const;
+    // The group frame from the buffer as it stands, or an empty array.
+    QByteArray groupFrameFor(DataBuffer const &buffer, int key) const;
 
 private:
     Row(int kind, const char *title);
@@ -136,6 +149,7 @@ private:
     int m_sub;
     FrameRule m_frame;
     ValueMap m_sendMap;
+    GroupRule m_group;
 };
 
 #endif // ROW_H

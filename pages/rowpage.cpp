@@ -153,7 +153,17 @@ int RowPage::rowKey(int row) const
 
 void RowPage::valueStepped(int row, int value)
 {
-    const QByteArray frame = m_rows.at(row).frameFor(rowKey(row), value);
+    Row const &entry = m_rows.at(row);
+    QByteArray frame;
+    if (entry.sendsGroup()) {
+        // The group goes out as the buffer holds it with the new value in
+        // place; the row itself moves when the car answers.
+        DataBuffer data = buffer();
+        entry.store(data, value);
+        frame = entry.groupFrameFor(data, rowKey(row));
+    } else {
+        frame = entry.frameFor(rowKey(row), value);
+    }
     if (!frame.isEmpty())
         sendFrame(frame);
 }

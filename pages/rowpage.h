@@ -47,7 +47,8 @@ protected:
     // The value of row i now, as initlist() reads it.
     virtual QVariant currentValue(int row) const;
     // A step on row landed on value: the default builds the row's frame and
-    // sends it. Pages that send groups or write the buffer first override it.
+    // sends it; a row that sends its group writes the value into the buffer
+    // first and packs the frame from there. Pages with other needs override it.
     virtual void valueStepped(int row, int value);
     // A press on the middle of a row; the middle-strip slots lead here.
     virtual void middlePressed(int row);

@@ -69,6 +69,40 @@ protected:
     void middlePressed(int row) override { middleRow = row; }
 };
 
+// Rows that send their whole group: a frame packed from the buffer after
+// the step was written into the row's own place.
+QByteArray pairGroup(DataBuffer const &buffer, int key)
+{
+    return Frames::makeFD(0x8C, {key, buffer.byte(40), buffer.byte(41), buffer.word(42) >> 8, buffer.word(42) & 0xFF});
+}
+
+// A group that only goes out while its switch (byte 44) is on.
+QByteArray switchedGroup(DataBuffer const &buffer, int)
+{
+    return buffer.byte(44) ? Frames::makeFD(0xA7, {buffer.byte(45)}) : QByteArray();
+}
+
+class GroupPage : public RowPage
+{
+    Q_OBJECT
+public:
+    GroupPage(QWidget *parent) : RowPage(QStringLiteral("Group"), parent) {}
+
+    using RowPage::model;
+
+protected:
+    QList<Row> rowTable() const override
+    {
+        return QList<Row>()
+            << Row::of(NumberKind, "Low nibble", {0, 15}).id(7).at(40, 0x0F).adjustable().group(pairGroup)
+            << Row::of(NumberKind, "High nibble", {0, 15}).id(8).at(40, 0x0F, 4).adjustable().group(pairGroup)
+            << Row::of(NumberKind, "Whole byte", {0, 256}).id(9).at(41).adjustable().group(pairGroup)
+            << Row::of(NumberKind, "Word", {0, 3000}).id(10).wordAt(42).adjustable().group(pairGroup)
+            << Row::of(NumberKind, "Switch", {0, 1}).id(11).at(44).adjustable().group(switchedGroup)
+            << Row::text("Text").id(12).textAt(48).adjustable().group(switchedGroup);
+    }
+};
+
 } // namespace
 
 class TestPageEngine : public QObject
@@ -229,6 +263,53 @@ private slots:
         QCOMPARE(sent.at(0).at(0).toByteArray(), checked(Frames::make2E(0xC6, {0x02, 41})));
         QVERIFY(HostSim::sentFrames().isEmpty());
         QCOMPARE(row(1).data(ValueRole).toInt(), 41);
+    }
+
+    void groupRowsWriteTheirPlaceFirst()
+    {
+        DataBuffer buffer = HostSim::buffer(Protocol);
+        buffer.setByte(40, 0x5A);
+        buffer.setByte(41, 255);
+        buffer.setWord(42, 2999);
+        buffer.setByte(45, 0x33);
+        buffer.setText(48, QStringLiteral("kept"));
+        GroupPage group(window);
+        group.createView();
+        HostSim::clearSentFrames();
+
+        // Each step lands in its own bits and the frame carries the buffer
+        // with it; the next step packs the earlier one too.
+        group.onValueChanged(group.model->index(0, 0), false); // low nibble 10 -> 11
+        QCOMPARE(int(buffer.byte(40)), 0x5B);
+        group.onValueChanged(group.model->index(1, 0), true);  // high nibble 5 -> 4
+        QCOMPARE(int(buffer.byte(40)), 0x4B);
+        group.onValueChanged(group.model->index(2, 0), false); // 255 -> 256, cut to the byte
+        QCOMPARE(int(buffer.byte(41)), 0);
+        group.onValueChanged(group.model->index(3, 0), false); // 2999 -> 3000 in 16 bits
+        QCOMPARE(int(buffer.word(42)), 3000);
+        QCOMPARE(HostSim::sentFrames(), (QList<QByteArray>{
+            checked(Frames::makeFD(0x8C, {7, 0x5B, 0xFF, 0x0B, 0xB7})),
+            checked(Frames::makeFD(0x8C, {8, 0x4B, 0xFF, 0x0B, 0xB7})),
+            checked(Frames::makeFD(0x8C, {9, 0x4B, 0x00, 0x0B, 0xB7})),
+            checked(Frames::makeFD(0x8C, {10, 0x4B, 0x00, 0x0B, 0xB8})),
+        }));
+        // The rows move when the car answers, not before.
+        QCOMPARE(group.model->index(0, 0).data(ValueRole).toInt(), 10);
+        group.ondataChanged();
+        QCOMPARE(group.model->index(0, 0).data(ValueRole).toInt(), 11);
+        QCOMPARE(group.model->index(2, 0).data(ValueRole).toInt(), 0);
+
+        // An empty group frame sends nothing, but the step is kept; a row
+        // without a byte or word has no place to write.
+        HostSim::clearSentFrames();
+        group.onValueChanged(group.model->index(4, 0), true);
+        QVERIFY(HostSim::sentFrames().isEmpty());
+        group.onValueChanged(group.model->index(4, 0), false);
+        QCOMPARE(int(buffer.byte(44)), 1);
+        group.onValueChanged(group.model->index(5, 0), false);
+        QCOMPARE(buffer.text(48), QStringLiteral("kept"));
+        QCOMPARE(HostSim::sentFrames(), (QList<QByteArray>{checked(Frames::makeFD(0xA7, {0x33})),
+                                                           checked(Frames::makeFD(0xA7, {0x33}))}));
     }
 
     void middleStripAndRefresh()
