@@ -5,11 +5,17 @@
 
 // The pages of the family of protocol 64, in the order of the stack.
 
+// Charging and energy: the charging times go out as one group.
 class CarInfoItem64_1 : public RowPage
 {
     Q_OBJECT
 public:
     using RowPage::RowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    QVariant currentValue(int row) const;
+    void valueStepped(int row, int value);
 };
 
 class CarInfoItem64_2 : public RowPage
@@ -26,11 +32,17 @@ public:
     using RowPage::RowPage;
 };
 
+// The vehicle settings, one-based in the buffer; the first row restores
+// the car's settings.
 class CarInfoItem64_4 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void middlePressed(int row);
 };
 
 // The tyre page: its reset row opens the tyre panel.
@@ -44,6 +56,7 @@ signals:
     void TirePressure();
 
 protected:
+    QList<Row> rowTable() const;
     void middlePressed(int row);
 };
 
@@ -54,18 +67,28 @@ public:
     using RowPage::RowPage;
 };
 
+// Automatic parking, with the choice of the car model.
 class CarInfoItem64_7 : public RowPage
 {
     Q_OBJECT
 public:
     using RowPage::RowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
+// Panorama: the video switches carry the stored parking track mode.
 class CarInfoItem64_8 : public RowPage
 {
     Q_OBJECT
 public:
     using RowPage::RowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 #endif // PAGES64_H

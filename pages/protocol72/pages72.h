@@ -31,6 +31,12 @@ class CarInfoItem72_4 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    // The electric consumption by distance: one row per 5 km, made in a loop.
+    QList<Row> rowTable() const;
+    void initlist();
+    QVariant currentValue(int row) const;
 };
 
 class CarInfoItem72_5 : public MiddleRowPage
@@ -38,6 +44,12 @@ class CarInfoItem72_5 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    // The fuel consumption by distance, laid out as 72_4.
+    QList<Row> rowTable() const;
+    void initlist();
+    QVariant currentValue(int row) const;
 };
 
 class CarInfoItem72_6 : public MiddleRowPage
@@ -45,13 +57,21 @@ class CarInfoItem72_6 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
+// Driving mode: the three custom states share one byte of the frame.
 class CarInfoItem72_7 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 // The tyre page: its reset row opens the tyre panel.
@@ -65,14 +85,19 @@ signals:
     void TirePressure();
 
 protected:
+    QList<Row> rowTable() const;
     void middlePressed(int row);
 };
 
+// Panorama: the camera steps differently in the 2D and the 3D view.
 class CarInfoItem72_9 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 class CarInfoItem72_10 : public MiddleRowPage
@@ -80,6 +105,9 @@ class CarInfoItem72_10 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 class CarInfoItem72_11 : public MiddleRowPage
@@ -87,6 +115,9 @@ class CarInfoItem72_11 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 class CarInfoItem72_12 : public MiddleRowPage
@@ -94,13 +125,21 @@ class CarInfoItem72_12 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
+// Locks and lights: the lamp rows share one value of the frame, a bit each.
 class CarInfoItem72_13 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 class CarInfoItem72_14 : public MiddleRowPage
@@ -108,13 +147,22 @@ class CarInfoItem72_14 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
+// Body information, with the choice of the car model.
 class CarInfoItem72_15 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 #endif // PAGES72_H
