@@ -73,14 +73,15 @@ inline void tap(TableView *view, int row, Zone zone)
 
 // One page of the stack, in front and built, on a window of the system
 // view's size. Frames that the page sends through the stack are kept in
-// signalled; those sent straight to the decoder box are HostSim's.
+// signalled; those sent straight to the decoder box are HostSim's. Another
+// family's stack is built when its protocol is given.
 class Page
 {
 public:
-    explicit Page(int index)
+    explicit Page(int index, int protocol = Protocol)
     {
         window.resize(1024, 470);
-        stack = createPageStack(Protocol, &window);
+        stack = createPageStack(protocol, &window);
         stack->setGeometry(window.rect());
         QObject::connect(stack, &CarExViewBase::sendData, [this](QByteArray f) { signalled.append(f); });
         stack->setCurrentIndex(index);
