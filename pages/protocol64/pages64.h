@@ -5,7 +5,6 @@
 
 // The pages of the family of protocol 64, in the order of the stack.
 
-// Charging and energy: the charging times go out as one group.
 class CarInfoItem64_1 : public RowPage
 {
     Q_OBJECT
@@ -13,6 +12,7 @@ public:
     using RowPage::RowPage;
 
 protected:
+    // Charging and energy: the charging times go out as one group.
     QList<Row> rowTable() const;
     QVariant currentValue(int row) const;
     void valueStepped(int row, int value);
@@ -32,8 +32,6 @@ public:
     using RowPage::RowPage;
 };
 
-// The vehicle settings, one-based in the buffer; the first row restores
-// the car's settings.
 class CarInfoItem64_4 : public MiddleRowPage
 {
     Q_OBJECT
@@ -41,6 +39,8 @@ public:
     using MiddleRowPage::MiddleRowPage;
 
 protected:
+    // The vehicle settings, one-based in the buffer; the first row restores
+    // the car's settings.
     QList<Row> rowTable() const;
     void middlePressed(int row);
 };
@@ -67,7 +67,6 @@ public:
     using RowPage::RowPage;
 };
 
-// Automatic parking, with the choice of the car model.
 class CarInfoItem64_7 : public RowPage
 {
     Q_OBJECT
@@ -75,6 +74,7 @@ public:
     using RowPage::RowPage;
 
 protected:
+    // Automatic parking, with the choice of the car model.
     QList<Row> rowTable() const;
     void valueStepped(int row, int value);
 };
