@@ -25,6 +25,7 @@ Row::Row(int kind, const char *title)
     , m_stepFromBuffer(false)
     , m_command(-1)
     , m_sub(0)
+    , m_item(-1)
     , m_frame(0)
     , m_sendMap(0)
     , m_group(0)
@@ -166,6 +167,15 @@ Row &Row::command(int command, int sub)
 {
     m_command = command;
     m_sub = sub;
+    m_item = -1;
+    return *this;
+}
+
+Row &Row::command(int command, int group, int item)
+{
+    m_command = command;
+    m_sub = group;
+    m_item = item;
     return *this;
 }
 
@@ -263,6 +273,8 @@ QByteArray Row::frameFor(int key, int value) const
     const int sent = m_sendMap ? m_sendMap(value) : value;
     if (m_frame)
         return m_frame(key, sent);
+    if (m_command >= 0 && m_item >= 0)
+        return Frames::make2E(m_command, {m_sub, m_item, sent});
     if (m_command >= 0)
         return Frames::make2E(m_command, {m_sub, sent});
     return QByteArray();

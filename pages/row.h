@@ -84,6 +84,9 @@ public:
     Row &stepsFromBuffer();
     // 2E command 02 sub value: the common setting frame.
     Row &command(int command, int sub);
+    // 2E command 03 group item value: the setting frame of the cars that
+    // address a setting by group and item.
+    Row &command(int command, int group, int item);
     Row &frame(FrameRule rule);
     // The stepped value goes out translated by map.
     Row &sendAs(ValueMap map);
@@ -147,6 +150,7 @@ private:
     bool m_stepFromBuffer;
     int m_command;
     int m_sub;
+    int m_item;
     FrameRule m_frame;
     ValueMap m_sendMap;
     GroupRule m_group;

@@ -64,7 +64,9 @@ protected:
             << Row::of(NumberKind, "Mapped", {0, 3}).at(14, 0x0F, 4).display(doubled).adjustable()
                    .sendAs(plusTen).command(0xC6, 0x05)
             << Row::of(SpeedKind, "Speed", {0, 0, 250}).read(speedWord)
-            << Row::of(NumberKind, "Odd", {0, 9}).at(15).adjustable().frame(odd);
+            << Row::of(NumberKind, "Odd", {0, 9}).at(15).adjustable().frame(odd)
+            << Row::choice("Grouped", {"OFF", "ON", "30s"}).at(16).adjustable().sendAs(plusTen)
+                   .command(0xC6, 0x03, 0x04);
     }
     void middlePressed(int row) override { middleRow = row; }
 };
@@ -161,7 +163,7 @@ private slots:
 
         page->createView();
         QVERIFY(page->model);
-        QCOMPARE(page->model->rowCount(QModelIndex()), 8);
+        QCOMPARE(page->model->rowCount(QModelIndex()), 9);
         QCOMPARE(row(0).data(TitleRole).toString(), QString("Language"));
         QCOMPARE(shown(0), QString("English"));
         QCOMPARE(shown(1), QString::fromUtf8("0.0℃"));
@@ -176,7 +178,7 @@ private slots:
         HostSim::buffer(Protocol).setByte(10, 2);
         page->createView();
         QCOMPARE(page->view, view);
-        QCOMPARE(page->model->rowCount(QModelIndex()), 8);
+        QCOMPARE(page->model->rowCount(QModelIndex()), 9);
         QCOMPARE(shown(0), QString("German"));
     }
 
@@ -230,6 +232,21 @@ private slots:
         QCOMPARE(HostSim::sentFrames(), expected);
         // The rows wait for the car's answer.
         QCOMPARE(shown(0), QString("English"));
+    }
+
+    // A setting addressed by group and item: 2E C6 03 group item value,
+    // the value after the row's send map.
+    void groupAndItemCommand()
+    {
+        page->createView();
+        HostSim::clearSentFrames();
+        page->onValueChanged(row(8), false);
+        page->onValueChanged(row(8), true);
+        const QList<QByteArray> expected = {
+            checked(Frames::make2E(0xC6, {0x03, 0x04, 11})),
+            checked(Frames::make2E(0xC6, {0x03, 0x04, 10})),
+        };
+        QCOMPARE(HostSim::sentFrames(), expected);
     }
 
     void clampNeverSuppressesTheFrame()

@@ -10,6 +10,12 @@ class CarInfoItem64_1 : public RowPage
     Q_OBJECT
 public:
     using RowPage::RowPage;
+
+protected:
+    // Charging and energy: the charging times go out as one group.
+    QList<Row> rowTable() const;
+    QVariant currentValue(int row) const;
+    void valueStepped(int row, int value);
 };
 
 // The voice, function and vehicle pages are those that seventeen families share.
@@ -34,6 +40,12 @@ class CarInfoItem64_4 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    // The vehicle settings, one-based in the buffer; the first row restores
+    // the car's settings.
+    QList<Row> rowTable() const;
+    void middlePressed(int row);
 };
 
 // The tyre page: its reset row opens the tyre panel.
@@ -47,6 +59,7 @@ signals:
     void TirePressure();
 
 protected:
+    QList<Row> rowTable() const;
     void middlePressed(int row);
 };
 
@@ -62,13 +75,23 @@ class CarInfoItem64_7 : public RowPage
     Q_OBJECT
 public:
     using RowPage::RowPage;
+
+protected:
+    // Automatic parking, with the choice of the car model.
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
+// Panorama: the video switches carry the stored parking track mode.
 class CarInfoItem64_8 : public RowPage
 {
     Q_OBJECT
 public:
     using RowPage::RowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 #endif // PAGES64_H

@@ -34,6 +34,12 @@ class CarInfoItem72_4 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    // The electric consumption by distance: one row per 5 km, made in a loop.
+    QList<Row> rowTable() const;
+    void initlist();
+    QVariant currentValue(int row) const;
 };
 
 class CarInfoItem72_5 : public MiddleRowPage
@@ -41,6 +47,12 @@ class CarInfoItem72_5 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    // The fuel consumption by distance, laid out as 72_4.
+    QList<Row> rowTable() const;
+    void initlist();
+    QVariant currentValue(int row) const;
 };
 
 class CarInfoItem72_6 : public MiddleRowPage
@@ -48,13 +60,21 @@ class CarInfoItem72_6 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
+// Driving mode: the three custom states share one byte of the frame.
 class CarInfoItem72_7 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 // The tyre page: its reset row opens the tyre panel.
@@ -68,14 +88,19 @@ signals:
     void TirePressure();
 
 protected:
+    QList<Row> rowTable() const;
     void middlePressed(int row);
 };
 
+// Panorama: the camera steps differently in the 2D and the 3D view.
 class CarInfoItem72_9 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 class CarInfoItem72_10 : public MiddleRowPage
@@ -83,6 +108,9 @@ class CarInfoItem72_10 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 class CarInfoItem72_11 : public MiddleRowPage
@@ -90,6 +118,9 @@ class CarInfoItem72_11 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
 class CarInfoItem72_12 : public MiddleRowPage
@@ -97,13 +128,21 @@ class CarInfoItem72_12 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
 };
 
+// Locks and lights: the lamp rows share one value of the frame, a bit each.
 class CarInfoItem72_13 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 class CarInfoItem72_14 : public MiddleRowPage
@@ -111,13 +150,22 @@ class CarInfoItem72_14 : public MiddleRowPage
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
+// Body information, with the choice of the car model.
 class CarInfoItem72_15 : public MiddleRowPage
 {
     Q_OBJECT
 public:
     using MiddleRowPage::MiddleRowPage;
+
+protected:
+    QList<Row> rowTable() const;
+    void valueStepped(int row, int value);
 };
 
 #endif // PAGES72_H
