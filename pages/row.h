@@ -118,7 +118,7 @@ public:
     int rowId() const { return m_id; }
     int unitCode() const { return m_unit; }
     bool followsUnit() const { return m_unitOffset >= 0 || m_unitReader; }
-    // The unit now: the buffer's byte where the row follows one.
+    // The unit now: what the row follows, where it follows one.
     int unitCode(DataBuffer const &buffer) const;
     double displayFactor() const { return m_factor; }
     bool isAdjustable() const { return m_adjustable; }
