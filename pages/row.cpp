@@ -9,6 +9,7 @@ Row::Row(int kind, const char *title)
     , m_id(-1)
     , m_unit(0)
     , m_unitOffset(-1)
+    , m_unitReader(0)
     , m_factor(1.0)
     , m_adjustable(false)
     , m_source(NoSource)
@@ -17,15 +18,18 @@ Row::Row(int kind, const char *title)
     , m_shift(0)
     , m_reader(0)
     , m_display(0)
+    , m_unlisted(UnlistedShowsNothing)
     , m_clamp(StandardClamp)
     , m_low(0)
     , m_high(0)
     , m_stepSize(1)
     , m_stepRule(0)
     , m_stepFromBuffer(false)
+    , m_directionCodes(false)
+    , m_downCode(0)
+    , m_upCode(0)
+    , m_stepAtOnce(false)
     , m_command(-1)
-    , m_sub(0)
-    , m_item(-1)
     , m_frame(0)
     , m_sendMap(0)
     , m_group(0)
@@ -78,8 +82,16 @@ Row &Row::unitAt(int offset)
     return *this;
 }
 
+Row &Row::unitBy(Reader reader)
+{
+    m_unitReader = reader;
+    return *this;
+}
+
 int Row::unitCode(DataBuffer const &buffer) const
 {
+    if (m_unitReader)
+        return m_unitReader(buffer).toInt();
     return m_unitOffset >= 0 ? int(buffer.byte(m_unitOffset)) : m_unit;
 }
 
@@ -131,6 +143,13 @@ Row &Row::display(ValueMap map)
     return *this;
 }
 
+Row &Row::showCodes(QList<int> const &codes, Unlisted unlisted)
+{
+    m_shownCodes = codes;
+    m_unlisted = unlisted;
+    return *this;
+}
+
 Row &Row::clamp(Clamp rule)
 {
     m_clamp = rule;
@@ -163,19 +182,34 @@ Row &Row::stepsFromBuffer()
     return *this;
 }
 
+Row &Row::direction(int downCode, int upCode)
+{
+    m_directionCodes = true;
+    m_downCode = downCode;
+    m_upCode = upCode;
+    return *this;
+}
+
+Row &Row::showsStepAtOnce()
+{
+    m_stepAtOnce = true;
+    return *this;
+}
+
 Row &Row::command(int command, int sub)
 {
-    m_command = command;
-    m_sub = sub;
-    m_item = -1;
-    return *this;
+    return this->command(command, {sub, Value});
 }
 
 Row &Row::command(int command, int group, int item)
 {
+    return this->command(command, {group, item, Value});
+}
+
+Row &Row::command(int command, std::initializer_list<int> payload)
+{
     m_command = command;
-    m_sub = group;
-    m_item = item;
+    m_payload = QList<int>(payload);
     return *this;
 }
 
@@ -194,6 +228,12 @@ Row &Row::sendAs(ValueMap map)
 Row &Row::group(GroupRule rule)
 {
     m_group = rule;
+    return *this;
+}
+
+Row &Row::sendCodes(QList<int> const &codes)
+{
+    m_sentCodes = codes;
     return *this;
 }
 
@@ -217,13 +257,24 @@ QVariant Row::value(DataBuffer const &buffer) const
         raw = m_reader(buffer);
         break;
     }
-    if (m_display && m_kind != TextKind)
+    if (m_kind == TextKind)
+        return raw;
+    if (!m_shownCodes.isEmpty()) {
+        const int code = raw.toInt();
+        const int option = m_shownCodes.indexOf(code);
+        if (option >= 0)
+            return option;
+        return m_unlisted == UnlistedStandsForItself ? code : -1;
+    }
+    if (m_display)
         return m_display(raw.toInt());
     return raw;
 }
 
 int Row::step(int current, bool down, QList<QVariant> const &options, DataBuffer const &buffer) const
 {
+    if (m_directionCodes)
+        return down ? m_downCode : m_upCode;
     if (m_stepRule)
         return m_stepRule(buffer, current, down);
     int value = down ? current - m_stepSize : current + m_stepSize;
@@ -270,13 +321,17 @@ int Row::step(int current, bool down, QList<QVariant> const &options, DataBuffer
 
 QByteArray Row::frameFor(int key, int value) const
 {
-    const int sent = m_sendMap ? m_sendMap(value) : value;
+    int sent = m_sendMap ? m_sendMap(value) : value;
+    if (!m_sentCodes.isEmpty())
+        sent = sent >= 0 && sent < m_sentCodes.size() ? m_sentCodes.at(sent) : 0;
     if (m_frame)
         return m_frame(key, sent);
-    if (m_command >= 0 && m_item >= 0)
-        return Frames::make2E(m_command, {m_sub, m_item, sent});
-    if (m_command >= 0)
-        return Frames::make2E(m_command, {m_sub, sent});
+    if (m_command >= 0) {
+        QByteArray payload;
+        for (int i = 0; i < m_payload.size(); ++i)
+            payload.append(char((m_payload.at(i) == Value ? sent : m_payload.at(i)) & 0xFF));
+        return Frames::make2E(m_command, payload);
+    }
     return QByteArray();
 }
 

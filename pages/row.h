@@ -37,6 +37,15 @@ public:
     // key as for FrameRule; an empty array sends nothing.
     typedef QByteArray (*GroupRule)(DataBuffer const &buffer, int key);
 
+    // In a payload, the place of the value that a step sends.
+    enum { Value = -1 };
+
+    // What a row shows for a car code that none of its options has.
+    enum Unlisted {
+        UnlistedShowsNothing,   // no option
+        UnlistedStandsForItself // the code itself, taken as an option index
+    };
+
     // How a step is kept in range.
     enum Clamp {
         // kind 0: the options; other kinds: first to second option with two,
@@ -62,6 +71,8 @@ public:
     Row &unit(int unit);
     // The unit follows a byte of the buffer: the car reports its unit there.
     Row &unitAt(int offset);
+    // The unit follows what reader answers (a record the car reports in).
+    Row &unitBy(Reader reader);
     Row &factor(double factor);
     Row &adjustable(bool adjustable = true);
 
@@ -72,6 +83,9 @@ public:
     Row &read(Reader reader);
     // The raw value is shown translated by map.
     Row &display(ValueMap map);
+    // The car reports codes: the option at index i is codes[i]. A code that
+    // no option has shows as unlisted says.
+    Row &showCodes(QList<int> const &codes, Unlisted unlisted = UnlistedShowsNothing);
 
     // Steps.
     Row &clamp(Clamp rule);
@@ -82,6 +96,13 @@ public:
     // A step starts from the value in the buffer, not from the shown one
     // (for pages that write a step into the buffer before the car answers).
     Row &stepsFromBuffer();
+    // A step sends the code of its direction (the left arrow downCode, the
+    // right arrow upCode) in place of a value; the row itself never moves
+    // until the car answers.
+    Row &direction(int downCode, int upCode);
+    // The row writes its stepped value into itself at once, before the frame
+    // goes out, whatever the page does with its other rows.
+    Row &showsStepAtOnce();
     // 2E command 02 sub value: the common setting frame.
     Row &command(int command, int sub);
     // 2E command 03 group item value: the setting frame of the cars that
@@ -93,6 +114,11 @@ public:
     // A step is written into the row's place in the buffer (its bits of a
     // byte, or its 16-bit value), and the frame packed from there by rule.
     Row &group(GroupRule rule);
+    // 2E command L payload: the bytes given, Value where the value goes.
+    Row &command(int command, std::initializer_list<int> payload);
+    // The stepped option index goes out as codes[index]; an index that the
+    // list doesn't have sends 0.
+    Row &sendCodes(QList<int> const &codes);
 
     // --- Read by the page engine ---
     int kind() const { return m_kind; }
@@ -101,12 +127,14 @@ public:
     bool hasId() const { return m_id >= 0; }
     int rowId() const { return m_id; }
     int unitCode() const { return m_unit; }
-    bool followsUnit() const { return m_unitOffset >= 0; }
-    // The unit now: the buffer's byte where the row follows one.
+    bool followsUnit() const { return m_unitOffset >= 0 || m_unitReader; }
+    // The unit now: what the row follows, where it follows one.
     int unitCode(DataBuffer const &buffer) const;
     double displayFactor() const { return m_factor; }
     bool isAdjustable() const { return m_adjustable; }
     bool startsStepFromBuffer() const { return m_stepFromBuffer; }
+    bool sendsDirection() const { return m_directionCodes; }
+    bool showsStepImmediately() const { return m_stepAtOnce; }
 
     // The row's value as the buffer holds it now, after the display map.
     QVariant value(DataBuffer const &buffer) const;
@@ -132,6 +160,7 @@ private:
     int m_id;
     int m_unit;
     int m_unitOffset;
+    Reader m_unitReader;
     double m_factor;
     bool m_adjustable;
 
@@ -141,6 +170,8 @@ private:
     int m_shift;
     Reader m_reader;
     ValueMap m_display;
+    QList<int> m_shownCodes;
+    Unlisted m_unlisted;
 
     Clamp m_clamp;
     int m_low;
@@ -148,9 +179,14 @@ private:
     int m_stepSize;
     StepRule m_stepRule;
     bool m_stepFromBuffer;
+    bool m_directionCodes;
+    int m_downCode;
+    int m_upCode;
+    bool m_stepAtOnce;
     int m_command;
-    int m_sub;
-    int m_item;
+
+    QList<int> m_payload;
+    QList<int> m_sentCodes;
     FrameRule m_frame;
     ValueMap m_sendMap;
     GroupRule m_group;

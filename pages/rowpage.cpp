@@ -141,7 +141,7 @@ void RowPage::onValueChanged(QModelIndex index, bool leftRight)
     const QList<QVariant> options = list.at(row).options;
     const int value = entry.step(current, leftRight, options, buffer());
     // A text has no number to step: shown at once, it empties.
-    if (m_showsStepAtOnce)
+    if ((m_showsStepAtOnce || entry.showsStepImmediately()) && !entry.sendsDirection())
         model->setData(index, entry.kind() == TextKind ? QVariant(QString()) : QVariant(value), ValueRole);
     valueStepped(row, value);
 }

@@ -58,6 +58,7 @@ protected:
     void setSendRoad(SendRoad road);
     // When set, a step writes the stepped value into the row at once,
     // before the frame goes out, instead of waiting for the car's answer.
+    // Rows that send a direction never move by themselves.
     void setShowsStepAtOnce(bool atOnce);
 
     // Sends a frame by the page's road.

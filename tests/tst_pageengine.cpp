@@ -105,6 +105,35 @@ protected:
     }
 };
 
+// Rows whose car codes aren't their options, a direction row, a row that
+// moves at once on a page that waits, payloads with the value inside, and a
+// unit from elsewhere.
+int unitSetting = 0;
+QVariant unitFromElsewhere(DataBuffer const &) { return unitSetting; }
+
+class CodedPage : public RowPage
+{
+    Q_OBJECT
+public:
+    CodedPage(QWidget *parent) : RowPage(QStringLiteral("Codes"), parent) {}
+
+    using RowPage::model;
+
+protected:
+    QList<Row> rowTable() const override
+    {
+        const QList<int> codes = QList<int>() << 2 << 4 << 5;
+        return QList<Row>()
+            << Row::choice("Both ways", {"A", "B", "C", "D"}).at(40).showCodes(codes, Row::UnlistedStandsForItself)
+                   .sendCodes(codes).adjustable().showsStepAtOnce().command(0xC6, {0xA4, Row::Value, 0x00})
+            << Row::choice("Shown only", {"A", "B", "C"}).at(41).showCodes(codes).adjustable()
+                   .command(0xC6, {0xB0, 0x07, Row::Value})
+            << Row::of(NumberKind, "Direction", {0, 10}).at(42).adjustable().showsStepAtOnce().direction(2, 1)
+                   .command(0xC2, {Row::Value})
+            << Row::of(DistanceKind, "Distance", {0, 100}).at(43).unitBy(unitFromElsewhere);
+    }
+};
+
 } // namespace
 
 class TestPageEngine : public QObject
@@ -327,6 +356,54 @@ private slots:
         QCOMPARE(buffer.text(48), QStringLiteral("kept"));
         QCOMPARE(HostSim::sentFrames(), (QList<QByteArray>{checked(Frames::makeFD(0xA7, {0x33})),
                                                            checked(Frames::makeFD(0xA7, {0x33}))}));
+    }
+
+    // Codes both ways: an unlisted code shows nothing or stands for itself
+    // as the row says; an option without a code sends 0. A direction row
+    // sends its codes and never moves; a row of its own moves at once.
+    void codesDirectionsAndPayloads()
+    {
+        DataBuffer buffer = HostSim::buffer(Protocol);
+        buffer.setByte(40, 5);
+        buffer.setByte(41, 3);
+        buffer.setByte(42, 6);
+        buffer.setByte(43, 12);
+        unitSetting = 1;
+        CodedPage coded(window);
+        coded.createView();
+        auto index = [&](int i) { return coded.model->index(i, 0); };
+        QCOMPARE(index(0).data(ValueRole).toInt(), 2);
+        QCOMPARE(index(1).data(ValueRole).toInt(), -1);
+        QCOMPARE(index(0).data(DisplayValueRole).toString(), QString("C"));
+        QCOMPARE(index(1).data(DisplayValueRole).toString(), QString());
+        QCOMPARE(index(3).data(DisplayValueRole).toString(), QString("12.0mi"));
+
+        buffer.setByte(40, 3);
+        buffer.setByte(41, 4);
+        unitSetting = 0;
+        coded.ondataChanged();
+        QCOMPARE(index(0).data(ValueRole).toInt(), 3);
+        QCOMPARE(index(0).data(DisplayValueRole).toString(), QString("D"));
+        QCOMPARE(index(1).data(DisplayValueRole).toString(), QString("B"));
+        QCOMPARE(index(3).data(DisplayValueRole).toString(), QString("12.0km"));
+
+        HostSim::clearSentFrames();
+        coded.onValueChanged(index(0), false); // D stays D, which has no code
+        coded.onValueChanged(index(0), true);  // C, code 5, shown at once
+        coded.onValueChanged(index(1), false); // C, sent as its index, waits
+        coded.onValueChanged(index(2), true);
+        coded.onValueChanged(index(2), false);
+        const QList<QByteArray> expected = {
+            checked(Frames::make2E(0xC6, {0xA4, 0, 0})),
+            checked(Frames::make2E(0xC6, {0xA4, 5, 0})),
+            checked(Frames::make2E(0xC6, {0xB0, 0x07, 2})),
+            checked(Frames::make2E(0xC2, {2})),
+            checked(Frames::make2E(0xC2, {1})),
+        };
+        QCOMPARE(HostSim::sentFrames(), expected);
+        QCOMPARE(index(0).data(ValueRole).toInt(), 2);
+        QCOMPARE(index(1).data(ValueRole).toInt(), 1);
+        QCOMPARE(index(2).data(ValueRole).toInt(), 6);
     }
 
     void middleStripAndRefresh()
