@@ -55,9 +55,11 @@ CanObj::CanObj(QObject *parent)
     : QObject(parent)
 {
     // The host's record of what went to the decoder box: every emission of
-    // the signal, also those that reach it from another signal.
+    // the signal, also those that reach it from another signal. A frame
+    // without bytes puts nothing on the bus.
     connect(this, &CanObj::sendDataToCan, this, [](QByteArray const &frame) {
-        vehicle().frames.append(frame);
+        if (!frame.isEmpty())
+            vehicle().frames.append(frame);
     });
 }
 
