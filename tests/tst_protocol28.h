@@ -77,10 +77,11 @@ inline void tap(TableView *view, int row, Zone zone)
 class Page
 {
 public:
-    explicit Page(int index)
+    // The page at index of the stack of protocol (28 unless told).
+    explicit Page(int index, int protocol = Protocol)
     {
         window.resize(1024, 470);
-        stack = createPageStack(Protocol, &window);
+        stack = createPageStack(protocol, &window);
         stack->setGeometry(window.rect());
         QObject::connect(stack, &CarExViewBase::sendData, [this](QByteArray f) { signalled.append(f); });
         stack->setCurrentIndex(index);
