@@ -14,6 +14,7 @@
 #include "protocol37/pages37.h"
 
 #include <QGridLayout>
+#include <QTemporaryDir>
 
 using P28::frame;
 using P28::hex;
@@ -109,6 +110,13 @@ class TestProtocol37 : public QObject
     Q_OBJECT
 
 private slots:
+    // The head unit's store of this run alone.
+    void initTestCase()
+    {
+        QVERIFY(storage.isValid());
+        HostSim::setStorageDirectory(storage.path());
+    }
+
     void init()
     {
         HostSim::reset();
@@ -622,6 +630,9 @@ private slots:
         p.dial("1");
         QCOMPARE(p.number(), QString("1"));
     }
+
+private:
+    QTemporaryDir storage;
 };
 
 QTEST_MAIN(TestProtocol37)
