@@ -221,18 +221,12 @@ private slots:
         QTest::newRow("37_1 language last") << int(Parking) << 8 << 89 << 16 << false << "2E 87 01 10 ck";
         QTest::newRow("37_1 volume") << int(Parking) << 9 << 90 << 7 << false << "2E 88 01 08 ck";
         QTest::newRow("37_1 volume top") << int(Parking) << 9 << 90 << 15 << false << "2E 88 01 0F ck";
-        QTest::newRow("37_1 volume bottom") << int(Parking) << 9 << 90 << 0 << true << "2E 88 01 00 ck";
         QTest::newRow("37_3 seat heating") << int(BodyClimate) << 0 << 56 << 0 << false << "2E 82 02 41 01 ck";
-        QTest::newRow("37_3 blower") << int(BodyClimate) << 1 << 57 << 1 << true << "2E 82 02 42 00 ck";
-        QTest::newRow("37_3 remote start") << int(BodyClimate) << 2 << 58 << 0 << false << "2E 82 02 43 01 ck";
         QTest::newRow("37_3 rear area") << int(BodyClimate) << 3 << 59 << 1 << false << "2E 82 02 44 02 ck";
         QTest::newRow("37_3 driver's seat on") << int(BodyClimate) << 4 << 60 << 0 << false << "2E 82 02 41 02 ck";
         QTest::newRow("37_3 driver's seat off") << int(BodyClimate) << 4 << 60 << 1 << true << "2E 82 02 41 00 ck";
         QTest::newRow("37_3 ramp") << int(BodyClimate) << 5 << 51 << 0 << false << "2E 83 02 51 01 ck";
-        QTest::newRow("37_3 cruise") << int(BodyClimate) << 6 << 52 << 0 << false << "2E 83 02 52 01 ck";
-        QTest::newRow("37_3 rear seat") << int(BodyClimate) << 7 << 53 << 1 << false << "2E 83 02 53 01 ck";
         QTest::newRow("37_3 colour last") << int(BodyClimate) << 8 << 54 << 17 << false << "2E 83 02 20 12 ck";
-        QTest::newRow("37_4 first") << int(BodyControl2) << 0 << 24 << 0 << false << "2E 83 02 0C 01 ck";
         QTest::newRow("37_4 mirrors") << int(BodyControl2) << 16 << 40 << 2 << false << "2E 83 02 5A 03 ck";
         QTest::newRow("37_4 traffic") << int(BodyControl2) << 19 << 43 << 0 << false << "2E 83 02 10 01 ck";
         QTest::newRow("37_4 headlight") << int(BodyControl2) << 25 << 49 << 2 << true << "2E 83 02 5E 01 ck";
@@ -242,8 +236,6 @@ private slots:
         QTest::newRow("37_5 remote start") << int(BodyControl) << 11 << 22 << 1 << true << "2E 83 02 0B 00 ck";
         QTest::newRow("37_6 volume") << int(Climate) << 0 << 0 << 1 << false << "2E 82 02 00 02 ck";
         QTest::newRow("37_6 seat heating") << int(Climate) << 5 << 5 << 0 << false << "2E 82 02 08 01 ck";
-        QTest::newRow("37_6 remote seat") << int(Climate) << 6 << 6 << 0 << false << "2E 82 02 05 01 ck";
-        QTest::newRow("37_6 start mode") << int(Climate) << 7 << 7 << 2 << true << "2E 82 02 06 01 ck";
         QTest::newRow("37_6 ventilation only") << int(Climate) << 9 << 9 << 1 << true << "2E 82 02 07 14 ck";
         QTest::newRow("37_6 comfortable") << int(Climate) << 9 << 9 << 2 << false << "2E 82 02 07 16 ck";
     }
