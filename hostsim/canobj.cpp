@@ -61,9 +61,11 @@ CanObj::CanObj(QObject *parent)
     : QObject(parent)
 {
     // The host's record of what went to the decoder box: every emission of
-    // the signal, also those that reach it from another signal.
+    // the signal, also those that reach it from another signal. A frame
+    // without bytes puts nothing on the bus.
     connect(this, &CanObj::sendDataToCan, this, [](QByteArray const &frame) {
-        HostSim::keepRecord(vehicle().frames, frame);
+        if (!frame.isEmpty())
+            HostSim::keepRecord(vehicle().frames, frame);
     });
 }
 

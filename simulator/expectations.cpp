@@ -1,5 +1,6 @@
 #include "expectations.h"
 
+#include "datasavecontrol.h"
 #include "debuglog.h"
 #include "hostsim.h"
 #include "listdata.h"
@@ -24,6 +25,20 @@ bool fail(QString *failure, QString const &wanted, QString const &got)
     return false;
 }
 
+// A value of the head unit's store against the one a scenario expects.
+bool sameStored(QVariant const &stored, QVariant const &wanted, QString const &wantedText, QString *failure)
+{
+    if (!stored.isValid())
+        return fail(failure, wantedText, QStringLiteral("nothing"));
+    // The store may give a number back as text.
+    bool storedIsNumber = false;
+    const qint64 storedNumber = stored.toLongLong(&storedIsNumber);
+    const bool same = (wanted.type() == QVariant::Int || wanted.type() == QVariant::LongLong)
+            ? storedIsNumber && storedNumber == wanted.toLongLong()
+            : stored.toString() == wanted.toString();
+    return same || fail(failure, wantedText, stored.toString());
+}
+
 QString className(QWidget const *widget)
 {
     return QLatin1String(widget->metaObject()->className());
@@ -43,7 +58,8 @@ bool Expectations::isExpectation(Command const &command)
     case Kind::ExpectRow: case Kind::ExpectRowValue: case Kind::ExpectRowTitle: case Kind::ExpectRows:
     case Kind::ExpectPage: case Kind::ExpectTitles: case Kind::ExpectTitle:
     case Kind::ExpectShown: case Kind::ExpectHidden: case Kind::ExpectMessage: case Kind::ExpectNoMessage:
-    case Kind::ExpectCommand: case Kind::ExpectSaved: case Kind::ExpectLabel: case Kind::ExpectDown:
+    case Kind::ExpectCommand: case Kind::ExpectSaved: case Kind::ExpectSetting: case Kind::ExpectLabel:
+    case Kind::ExpectDown:
     case Kind::ExpectExists: case Kind::ExpectMissing: case Kind::ExpectVisibleText: case Kind::ExpectLog:
         return true;
     default:
@@ -60,7 +76,8 @@ bool Expectations::check(Command const &c, QString *failure)
         return checkTitles(c, failure);
     case Kind::ExpectRow: case Kind::ExpectRowValue: case Kind::ExpectRowTitle: case Kind::ExpectRows:
         return checkRows(c, failure);
-    case Kind::ExpectCommand: case Kind::ExpectSaved: case Kind::ExpectMessage: case Kind::ExpectNoMessage:
+    case Kind::ExpectCommand: case Kind::ExpectSaved: case Kind::ExpectSetting: case Kind::ExpectMessage:
+    case Kind::ExpectNoMessage:
     case Kind::ExpectLog:
         return checkHost(c, failure);
     default:
@@ -186,20 +203,13 @@ bool Expectations::checkHost(Command const &c, QString *failure)
         m_host.consumeCommand();
         return true;
     }
-    case Kind::ExpectSaved: {
-        const QVariant wanted = c.args.value(0);
-        const QVariant saved = HostSim::savedUserData(c.name);
-        const QString wantedText = QStringLiteral("saved %1 %2").arg(c.name, wanted.toString());
-        if (!saved.isValid())
-            return fail(failure, wantedText, QStringLiteral("nothing"));
-        // The store may give a number back as text.
-        bool savedIsNumber = false;
-        const qint64 savedNumber = saved.toLongLong(&savedIsNumber);
-        const bool same = (wanted.type() == QVariant::Int || wanted.type() == QVariant::LongLong)
-                ? savedIsNumber && savedNumber == wanted.toLongLong()
-                : saved.toString() == wanted.toString();
-        return same || fail(failure, wantedText, saved.toString());
-    }
+    case Kind::ExpectSaved:
+        return sameStored(HostSim::savedUserData(c.name), c.args.value(0),
+                          QStringLiteral("saved %1 %2").arg(c.name, c.args.value(0).toString()), failure);
+    case Kind::ExpectSetting:
+        // The settings that the plug-in stores, in the store's unnamed group.
+        return sameStored(DataSaveControl::readSettingData(c.name, QVariant(), QString()), c.args.value(0),
+                          QStringLiteral("setting %1 %2").arg(c.name, c.args.value(0).toString()), failure);
     default: {
         const QStringList lines = DebugLog::lines();
         for (QString const &line : lines) {

@@ -40,12 +40,12 @@ enum class Kind {
     // Signals and calls.
     Notify, Call,
     // User input.
-    Key, TapTitle, TapRow, TapBar, TapButton, TapObject, TapAt, LongPress, Wait,
+    Key, TapTitle, TapRow, TapBar, TapButton, TapObject, TapAt, LongPress, LongPressButton, Wait,
     // Expectations.
     ExpectFrame, ExpectFrames, ExpectNoFrame, DropFrames,
     ExpectRow, ExpectRowValue, ExpectRowTitle, ExpectRows, ExpectPage,
     ExpectTitles, ExpectTitle, ExpectShown, ExpectHidden,
-    ExpectMessage, ExpectNoMessage, ExpectCommand, ExpectSaved,
+    ExpectMessage, ExpectNoMessage, ExpectCommand, ExpectSaved, ExpectSetting,
     ExpectLabel, ExpectDown, ExpectExists, ExpectMissing, ExpectVisibleText, ExpectLog,
     Screenshot
 };

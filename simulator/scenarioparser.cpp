@@ -502,6 +502,11 @@ bool parseExpect(Reader &in, Command *c)
         return in.text(QStringLiteral("key"), &c->name) && in.valueInto(QStringLiteral("value"), &c->args)
             && in.end();
     }
+    if (what == QLatin1String("setting")) {
+        c->kind = Kind::ExpectSetting;
+        return in.text(QStringLiteral("key"), &c->name) && in.valueInto(QStringLiteral("value"), &c->args)
+            && in.end();
+    }
     if (what == QLatin1String("label")) {
         c->kind = Kind::ExpectLabel;
         return in.text(QStringLiteral("objectName"), &c->name) && textInto("text") && in.end();
@@ -694,8 +699,19 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
         return parseTap(in, c);
     if (word == QLatin1String("longpress")) {
         c->kind = Kind::LongPress;
-        return in.text(QStringLiteral("objectName"), &c->name)
-                && in.numberInto(QStringLiteral("milliseconds"), 0, MaxWaitMs, &c->numbers) && in.end();
+        // longpress button "TEXT" MS holds a button found by its text, as
+        // tap button does; two tokens are an objectName and a time.
+        if (in.left() == 3 && !in.peek().quoted && in.peek().text == QLatin1String("button")) {
+            in.take();
+            c->kind = Kind::LongPressButton;
+            QString text;
+            if (!in.text(QStringLiteral("text"), &text))
+                return false;
+            c->texts << text;
+        } else if (!in.text(QStringLiteral("objectName"), &c->name)) {
+            return false;
+        }
+        return in.numberInto(QStringLiteral("milliseconds"), 0, MaxWaitMs, &c->numbers) && in.end();
     }
     if (word == QLatin1String("wait")) {
         c->kind = Kind::Wait;

@@ -103,9 +103,12 @@ bool Runner::giveInput(Command const &c, QString *failure)
             return true;
         *failure = QStringLiteral("expected the bar's %1 button got %2").arg(c.name, missing);
         return false;
-    case Kind::TapButton:
+    case Kind::TapButton: case Kind::LongPressButton:
         if (QWidget *button = probe.findButton(c.texts.value(0))) {
-            input.tapWidget(button);
+            if (c.kind == Kind::TapButton)
+                input.tapWidget(button);
+            else
+                input.longPress(button, int(c.numbers.value(0)));
             return true;
         }
         *failure = QStringLiteral("expected a visible button %1 got none").arg(quoted(c.texts.value(0)));

@@ -292,6 +292,15 @@ void TestScenarioParser::inputCommands()
     QCOMPARE(c.kind, Kind::LongPress);
     QCOMPARE(c.name, QString("autoButton"));
     QCOMPARE(c.numbers, numbers({1200}));
+    // A button by its text, as tap button finds it; "button" alone with a
+    // time is an objectName.
+    c = parsed("longpress button \"FM/AM\" 2500");
+    QCOMPARE(c.kind, Kind::LongPressButton);
+    QCOMPARE(c.texts, QStringList{"FM/AM"});
+    QCOMPARE(c.numbers, numbers({2500}));
+    c = parsed("longpress button 300");
+    QCOMPARE(c.kind, Kind::LongPress);
+    QCOMPARE(c.name, QString("button"));
     QCOMPARE(parsed("wait 150").numbers, numbers({150}));
 }
 
@@ -329,6 +338,11 @@ void TestScenarioParser::expectations()
     c = parsed("expect saved CanbusCAR 3");
     QCOMPARE(c.name, QString("CanbusCAR"));
     QCOMPARE(c.args, QVariantList{3});
+    c = parsed("expect setting SteeringWheelButtonType 2");
+    QCOMPARE(c.kind, Kind::ExpectSetting);
+    QCOMPARE(c.name, QString("SteeringWheelButtonType"));
+    QCOMPARE(c.args, QVariantList{2});
+    QCOMPARE(parsed("expect setting Theme \"dark\"").args, QVariantList{"dark"});
     QCOMPARE(parsed("expect label label \"Reset\"").name, QString("label"));
     QCOMPARE(parsed("expect down acButton 1").numbers, numbers({1}));
     QCOMPARE(parsed("expect exists listModel").kind, Kind::ExpectExists);
@@ -375,6 +389,8 @@ void TestScenarioParser::malformedLines_data()
     QTest::newRow("tap bar") << "tap bar menu" << "button menu is not one of back|home";
     QTest::newRow("tap two names") << "tap a b" << "unexpected b";
     QTest::newRow("wait negative") << "wait -1" << "milliseconds -1 outside";
+    QTest::newRow("longpress button time") << "longpress button \"OK\" soon" << "milliseconds soon is not a number";
+    QTest::newRow("setting without value") << "expect setting SteeringWheelButtonType" << "value missing";
     QTest::newRow("frame byte") << "expect frame 2E 100" << "100 is not a hex byte";
     QTest::newRow("frame empty") << "expect frame" << "bytes missing";
     QTest::newRow("unknown expectation") << "expect colour red" << "unknown expectation colour";
