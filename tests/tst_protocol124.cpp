@@ -550,7 +550,18 @@ private slots:
         QVERIFY(!dialog);
         HostSim::pressBarButton(bar, "back");
         QVERIFY(!stack->isVisible());
+
+        // The view goes while a closed dialog waits for its deletion: the
+        // page goes with it and nothing keeps the focus on a dead widget.
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
+        dialog = openDialog();
+        HostSim::pressBarButton(bar, "back");
+        QVERIFY(dialog);
         delete view;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!dialog);
+        QWidget *focus = QApplication::focusWidget();
+        QVERIFY(!focus || focus->isVisible());
     }
 };
 

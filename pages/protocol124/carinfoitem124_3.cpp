@@ -147,6 +147,15 @@ CarInfoItem124_3::CarInfoItem124_3(QString const &title, QWidget *parent)
     m_lines[0] = m_lines[1] = m_lines[2] = 0;
 }
 
+// A dialog still alive goes with the page: its end must not call back into
+// a page that is going away.
+CarInfoItem124_3::~CarInfoItem124_3()
+{
+    const QList<ListDialog *> dialogs = findChildren<ListDialog *>();
+    for (int i = 0; i < dialogs.size(); ++i)
+        disconnect(dialogs.at(i), 0, this, 0);
+}
+
 void CarInfoItem124_3::createView()
 {
     if (m_built) {

@@ -24,6 +24,7 @@ class CarInfoItem124_3 : public CarInfoItem
     Q_OBJECT
 public:
     CarInfoItem124_3(QString const &title, QWidget *parent);
+    ~CarInfoItem124_3();
 
     void createView();
     void ondataChanged();
