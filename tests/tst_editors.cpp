@@ -498,10 +498,9 @@ private slots:
     {
         QStandardItemModel rows(3, 1);
         QWidget window;
-        window.resize(700, 100);
-        window.setGeometry(0, 0, 700, 100);
+        window.resize(1000, 100);
         OptionsItem item(rows.index(2, 0), "Volume", &window);
-        item.setGeometry(0, 0, 700, 80);
+        item.setGeometry(0, 0, 1000, 80);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
 
@@ -512,8 +511,14 @@ private slots:
         QVERIFY(left && right && title && value);
         QCOMPARE(item.getTitle(), QString("Volume"));
         QCOMPARE(title->text(), QString("Volume"));
-        // The arrows' pictures came from the artwork.
+        // The arrows' pictures came from the artwork and show over the
+        // background.
         QCOMPARE(left->size(), QSize(60, 60));
+        const QImage image = rendered(&item);
+        for (QWidget *part : {static_cast<QWidget *>(left), static_cast<QWidget *>(right)})
+            QVERIFY(image.pixelColor(part->geometry().center()) != QColor(Qt::black));
+        QVERIFY(left->geometry().right() < value->geometry().left());
+        QVERIFY(value->geometry().right() < right->geometry().left());
 
         QSignalSpy changed(&item, &OptionsItem::valueChanged);
         auto tapOn = [&](QWidget *part) {
