@@ -61,6 +61,7 @@ bool Expectations::isExpectation(Command const &command)
     case Kind::ExpectCommand: case Kind::ExpectSaved: case Kind::ExpectSetting: case Kind::ExpectLabel:
     case Kind::ExpectDown:
     case Kind::ExpectExists: case Kind::ExpectMissing: case Kind::ExpectVisibleText: case Kind::ExpectLog:
+    case Kind::ExpectNoVisibleText: case Kind::ExpectEntries: case Kind::ExpectEntry:
         return true;
     default:
         return false;
@@ -80,6 +81,8 @@ bool Expectations::check(Command const &c, QString *failure)
     case Kind::ExpectNoMessage:
     case Kind::ExpectLog:
         return checkHost(c, failure);
+    case Kind::ExpectEntries: case Kind::ExpectEntry:
+        return checkEntries(c, failure);
     default:
         return checkScreen(c, failure);
     }
@@ -180,6 +183,25 @@ bool Expectations::checkRows(Command const &c, QString *failure)
     return shown == text || fail(failure, wanted, quoted(shown));
 }
 
+bool Expectations::checkEntries(Command const &c, QString *failure)
+{
+    const qint64 number = c.numbers.value(0);
+    const QString text = c.texts.value(0);
+    const QString wanted = c.kind == Kind::ExpectEntries ? QStringLiteral("entries %1").arg(number)
+                                                         : QStringLiteral("entry %1 %2").arg(number).arg(quoted(text));
+    QAbstractItemView *list = m_host.probe().dialogEntries();
+    QAbstractItemModel *entries = list ? list->model() : nullptr;
+    if (!entries)
+        return fail(failure, wanted, QStringLiteral("no list dialog open"));
+    const int count = entries->rowCount();
+    if (c.kind == Kind::ExpectEntries)
+        return count == number || fail(failure, wanted, QString::number(count));
+    if (number >= count)
+        return fail(failure, wanted, QStringLiteral("%1 entries").arg(count));
+    const QString shown = entries->index(int(number), 0).data(Qt::DisplayRole).toString();
+    return shown == text || fail(failure, wanted, quoted(shown));
+}
+
 bool Expectations::checkHost(Command const &c, QString *failure)
 {
     const QString text = c.texts.value(0);
@@ -273,6 +295,11 @@ bool Expectations::checkScreen(Command const &c, QString *failure)
         }
         return fail(failure, QStringLiteral("visibletext %1").arg(quoted(text)),
                     shown.isEmpty() ? QStringLiteral("no text") : shown.join(QStringLiteral(", ")));
+    }
+    case Kind::ExpectNoVisibleText: {
+        const int times = probe.visibleTexts().count(text);
+        return times == 0 || fail(failure, QStringLiteral("novisibletext %1").arg(quoted(text)),
+                                  QStringLiteral("shown %1 time(s)").arg(times));
     }
     default:
         return true;

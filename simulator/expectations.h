@@ -3,8 +3,8 @@
 
 // The scenario commands that check what the plug-in did: the frames it sent
 // to the decoder box, the climate commands it gave the head unit, the rows
-// and titles of the extended view in front, what the screen shows, what the
-// plug-in saved and logged. Frames and climate commands are read in order:
+// and titles of the extended view in front, the entries of an open list
+// dialog, what the screen shows, what the plug-in saved and logged. Frames and climate commands are read in order:
 // expect frame and expect command consume what they matched.
 
 #include <QString>
@@ -31,6 +31,7 @@ private:
     bool checkRows(Command const &command, QString *failure);
     bool checkScreen(Command const &command, QString *failure);
     bool checkHost(Command const &command, QString *failure);
+    bool checkEntries(Command const &command, QString *failure);
 
     SimulatorHost &m_host;
 };

@@ -41,12 +41,14 @@ enum class Kind {
     Notify, Call,
     // User input.
     Key, TapTitle, TapRow, TapBar, TapButton, TapObject, TapAt, LongPress, LongPressButton, Wait,
+    TapEntry, Drag, DragAt,
     // Expectations.
     ExpectFrame, ExpectFrames, ExpectNoFrame, DropFrames,
     ExpectRow, ExpectRowValue, ExpectRowTitle, ExpectRows, ExpectPage,
     ExpectTitles, ExpectTitle, ExpectShown, ExpectHidden,
     ExpectMessage, ExpectNoMessage, ExpectCommand, ExpectSaved, ExpectSetting,
     ExpectLabel, ExpectDown, ExpectExists, ExpectMissing, ExpectVisibleText, ExpectLog,
+    ExpectNoVisibleText, ExpectEntries, ExpectEntry,
     Screenshot
 };
 
@@ -56,8 +58,9 @@ constexpr int CurrentProtocol = -1;
 // One parsed line. Which members carry what depends on the kind:
 //  - id, offset: the data buffer and the offset of the buffer and record
 //    commands;
-//  - numbers: the values (bytes, words, the number of a row or title, a key
-//    code, milliseconds, a point);
+//  - numbers: the values (bytes, words, the number of a row, title or list
+//    entry, a key code, milliseconds, a point, a drag's two per cents or two
+//    points);
 //  - texts: quoted texts, and the names of entries;
 //  - name: the operation of call, a host flag, a setting key, an
 //    objectName, a view name, a zone, a bar button;

@@ -375,7 +375,7 @@ bool parseCall(Reader &in, Command *c)
 bool parseTap(Reader &in, Command *c)
 {
     if (in.atEnd())
-        return in.fail(QStringLiteral("tap what? title N, row N ZONE, bar back|home, button \"TEXT\", at X Y or an objectName"));
+        return in.fail(QStringLiteral("tap what? title N, row N ZONE, bar back|home, button \"TEXT\", entry N, at X Y or an objectName"));
     const Token first = in.take();
     const bool more = !in.atEnd();
     if (!first.quoted && more) {
@@ -399,6 +399,10 @@ bool parseTap(Reader &in, Command *c)
             c->texts << in.take().text;
             return in.end();
         }
+        if (word == QLatin1String("entry")) {
+            c->kind = Kind::TapEntry;
+            return in.numberInto(QStringLiteral("entry"), 0, IntMax, &c->numbers) && in.end();
+        }
         if (word == QLatin1String("at")) {
             c->kind = Kind::TapAt;
             return in.numberInto(QStringLiteral("x"), IntMin, IntMax, &c->numbers)
@@ -408,6 +412,27 @@ bool parseTap(Reader &in, Command *c)
     c->kind = Kind::TapObject;
     c->name = first.text;
     return in.end();
+}
+
+// drag OBJECTNAME FROM TO: per cents of the widget's width, at half its
+// height; drag at X1 Y1 X2 Y2: points of the screen.
+bool parseDrag(Reader &in, Command *c)
+{
+    if (in.atEnd())
+        return in.fail(QStringLiteral("drag what? OBJECTNAME FROM_PERCENT TO_PERCENT or at X1 Y1 X2 Y2"));
+    const Token first = in.take();
+    if (!first.quoted && first.text == QLatin1String("at")) {
+        c->kind = Kind::DragAt;
+        for (char const *what : {"x1", "y1", "x2", "y2"}) {
+            if (!in.numberInto(QLatin1String(what), IntMin, IntMax, &c->numbers))
+                return false;
+        }
+        return in.end();
+    }
+    c->kind = Kind::Drag;
+    c->name = first.text;
+    return in.numberInto(QStringLiteral("from per cent"), 0, 100, &c->numbers)
+            && in.numberInto(QStringLiteral("to per cent"), 0, 100, &c->numbers) && in.end();
 }
 
 bool parseExpect(Reader &in, Command *c)
@@ -526,6 +551,18 @@ bool parseExpect(Reader &in, Command *c)
     if (what == QLatin1String("visibletext")) {
         c->kind = Kind::ExpectVisibleText;
         return textInto("text") && in.end();
+    }
+    if (what == QLatin1String("novisibletext")) {
+        c->kind = Kind::ExpectNoVisibleText;
+        return textInto("text") && in.end();
+    }
+    if (what == QLatin1String("entries")) {
+        c->kind = Kind::ExpectEntries;
+        return in.numberInto(QStringLiteral("count"), 0, IntMax, &c->numbers) && in.end();
+    }
+    if (what == QLatin1String("entry")) {
+        c->kind = Kind::ExpectEntry;
+        return in.numberInto(QStringLiteral("entry"), 0, IntMax, &c->numbers) && textInto("text") && in.end();
     }
     if (what == QLatin1String("log")) {
         c->kind = Kind::ExpectLog;
@@ -713,6 +750,8 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
         }
         return in.numberInto(QStringLiteral("milliseconds"), 0, MaxWaitMs, &c->numbers) && in.end();
     }
+    if (word == QLatin1String("drag"))
+        return parseDrag(in, c);
     if (word == QLatin1String("wait")) {
         c->kind = Kind::Wait;
         return in.numberInto(QStringLiteral("milliseconds"), 0, MaxWaitMs, &c->numbers) && in.end();

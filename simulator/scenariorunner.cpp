@@ -136,6 +136,36 @@ bool Runner::giveInput(Command const &c, QString *failure)
         input.tapAt(point);
         return true;
     }
+    case Kind::TapEntry:
+        if (input.tapEntry(int(c.numbers.value(0)), &missing))
+            return true;
+        *failure = QStringLiteral("expected entry %1 to tap got %2").arg(c.numbers.value(0)).arg(missing);
+        return false;
+    case Kind::Drag: {
+        QWidget *widget = probe.findWidget(c.name);
+        if (!ScreenProbe::isShown(widget)) {
+            *failure = QStringLiteral("expected a visible %1 got %2")
+                           .arg(c.name, widget ? QStringLiteral("hidden") : QStringLiteral("missing"));
+            return false;
+        }
+        // Per cents of the width: 100 is the last pixel.
+        const int last = widget->width() - 1;
+        const int y = widget->height() / 2;
+        input.drag(widget, QPoint(int(last * c.numbers.value(0) / 100), y),
+                   QPoint(int(last * c.numbers.value(1) / 100), y));
+        return true;
+    }
+    case Kind::DragAt: {
+        const QPoint from(int(c.numbers.value(0)), int(c.numbers.value(1)));
+        const QPoint to(int(c.numbers.value(2)), int(c.numbers.value(3)));
+        if (!m_host.screen()->rect().contains(from)) {
+            *failure = QStringLiteral("expected a point of the screen got %1 %2, outside %3x%4")
+                           .arg(from.x()).arg(from.y()).arg(m_host.screen()->width()).arg(m_host.screen()->height());
+            return false;
+        }
+        input.dragAt(from, to);
+        return true;
+    }
     case Kind::Wait:
         EventPump::wait(int(c.numbers.value(0)));
         return true;

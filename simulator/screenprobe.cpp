@@ -10,12 +10,20 @@
 #include <QApplication>
 #include <QChildEvent>
 #include <QLabel>
+#include <QMetaProperty>
 #include <QStackedWidget>
 #include <QTableView>
 
 namespace {
 
 constexpr int UiLevels = 4;
+
+// A widget that paints its own text shows it as its text property.
+bool hasTextProperty(QWidget const *widget)
+{
+    const int index = widget->metaObject()->indexOfProperty("text");
+    return index >= 0 && widget->metaObject()->property(index).type() == QVariant::String;
+}
 
 } // namespace
 
@@ -161,11 +169,29 @@ QWidget *ScreenProbe::findButton(QString const &text) const
     for (auto it = widgets.crbegin(); it != widgets.crend(); ++it) {
         QWidget *widget = *it;
         QString shown;
-        const bool button = qobject_cast<QAbstractButton *>(widget) || qobject_cast<CustomImageButton *>(widget);
+        const bool button = qobject_cast<QAbstractButton *>(widget) || qobject_cast<CustomImageButton *>(widget)
+                || (!qobject_cast<QLabel *>(widget) && !qobject_cast<ZorvRollingText *>(widget)
+                    && hasTextProperty(widget));
         if (button && isShown(widget) && textOf(widget, &shown) && shown == text)
             return widget;
     }
     return nullptr;
+}
+
+QWidget *ScreenProbe::listDialog() const
+{
+    const auto widgets = screen()->findChildren<QWidget *>();
+    for (auto it = widgets.crbegin(); it != widgets.crend(); ++it) {
+        if ((*it)->inherits("ListDialog") && isShown(*it))
+            return *it;
+    }
+    return nullptr;
+}
+
+QAbstractItemView *ScreenProbe::dialogEntries() const
+{
+    QWidget *dialog = listDialog();
+    return dialog ? dialog->findChild<QAbstractItemView *>() : nullptr;
 }
 
 QStringList ScreenProbe::visibleTexts() const
@@ -209,6 +235,8 @@ bool ScreenProbe::textOf(QWidget const *widget, QString *text)
         *text = imageButton->text();
     else if (auto *rolling = qobject_cast<ZorvRollingText const *>(widget))
         *text = rolling->text();
+    else if (hasTextProperty(widget))
+        *text = widget->property("text").toString();
     else
         return false;
     return true;

@@ -51,8 +51,14 @@ public:
     QWidget *findWidget(QString const &objectName) const;
     // The same, for any object on the screen, widget or not.
     QObject *findObject(QString const &objectName) const;
-    // The visible button, of those lying highest, whose text is text.
+    // The visible button, of those lying highest, whose text is text: a
+    // push button, a picture button, or a widget that paints its own text
+    // and shows it as its text property.
     QWidget *findButton(QString const &text) const;
+    // The list dialog that lies highest among the visible ones, and the
+    // list of its entries; null if no list dialog shows.
+    QWidget *listDialog() const;
+    QAbstractItemView *dialogEntries() const;
     // The texts that the visible labels and buttons of the screen show.
     QStringList visibleTexts() const;
     // Where the keys go: the focused widget of the screen, else the one that
@@ -61,8 +67,9 @@ public:
 
     // The widget exists and is visible on the screen.
     static bool isShown(QWidget const *widget);
-    // The text that a label, a button or a rolling text shows; false for
-    // other widgets.
+    // The text that a label, a button or a rolling text shows, or the text
+    // property of a widget that paints its own text; false for other
+    // widgets.
     static bool textOf(QWidget const *widget, QString *text);
     // Whether a button is down (pressed, checked or latched); false for
     // other widgets.

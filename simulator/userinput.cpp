@@ -19,7 +19,8 @@ void sendMouse(QWidget *widget, QEvent::Type type, QPoint const &local)
     const QPointF windowPos = widget->mapTo(widget->window(), local);
     const QPointF screenPos = widget->mapToGlobal(local);
     const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, QPointF(local), windowPos, screenPos, Qt::LeftButton, buttons, Qt::NoModifier);
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, QPointF(local), windowPos, screenPos, button, buttons, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
 
@@ -135,6 +136,46 @@ bool UserInput::tapRow(int row, Zone zone, QString *failure)
         x = width - height / 2;
     tapAt(itemPoint(table, table->visualRect(item), x, m_probe.screen()));
     return true;
+}
+
+bool UserInput::tapEntry(int index, QString *failure)
+{
+    QAbstractItemView *list = m_probe.dialogEntries();
+    if (!ScreenProbe::isShown(list)) {
+        *failure = QStringLiteral("no list dialog open");
+        return false;
+    }
+    const int count = list->model() ? list->model()->rowCount() : 0;
+    if (index < 0 || index >= count) {
+        *failure = QStringLiteral("%1 entries").arg(count);
+        return false;
+    }
+    const QModelIndex item = list->model()->index(index, 0);
+    list->scrollTo(item);
+    EventPump::settle();
+    const QRect rect = list->visualRect(item);
+    tapAt(itemPoint(list, rect, rect.center().x(), m_probe.screen()));
+    return true;
+}
+
+void UserInput::drag(QWidget *widget, QPoint const &from, QPoint const &to)
+{
+    constexpr int Steps = 10;
+    QPointer<QWidget> alive = widget;
+    sendMouse(widget, QEvent::MouseButtonPress, from);
+    for (int i = 1; i <= Steps && alive; ++i)
+        sendMouse(widget, QEvent::MouseMove, from + (to - from) * i / Steps);
+    if (alive)
+        sendMouse(widget, QEvent::MouseButtonRelease, to);
+}
+
+void UserInput::dragAt(QPoint const &screenFrom, QPoint const &screenTo)
+{
+    QWidget *screen = m_probe.screen();
+    QWidget *target = screen->childAt(screenFrom);
+    if (!target)
+        target = screen;
+    drag(target, target->mapFrom(screen, screenFrom), target->mapFrom(screen, screenTo));
 }
 
 bool UserInput::tapBar(QString const &button, QString *failure)

@@ -34,6 +34,13 @@ public:
     bool tapRow(int row, Zone zone, QString *failure);
     // "back" or "home".
     bool tapBar(QString const &button, QString *failure);
+    // An entry of the open list dialog, scrolled into view first.
+    bool tapEntry(int index, QString *failure);
+    // A finger pressed at from, moved to to in steps, released there; all
+    // to the widget under from, as a real finger's touches go to the widget
+    // it pressed. Points of the widget's own, or of the screen.
+    void drag(QWidget *widget, QPoint const &from, QPoint const &to);
+    void dragAt(QPoint const &screenFrom, QPoint const &screenTo);
 
 private:
     ScreenProbe const &m_probe;

@@ -61,6 +61,7 @@ private slots:
     void malformedLines();
     void wholeScenario();
     void climateRecordByOffset();
+    void listDialogAndDragCommands();
 };
 
 void TestScenarioParser::tokens_data()
@@ -509,6 +510,40 @@ void TestScenarioParser::climateRecordByOffset()
     QCOMPARE(RecordFields::airText(air, 44), QString("18"));
     QVERIFY(!RecordFields::setAirText(air, 48, "x"));
     QVERIFY(!RecordFields::isAirText(5));
+}
+
+// The list dialog's entries, a text that must not show, and a finger
+// dragged over a widget or between points of the screen.
+void TestScenarioParser::listDialogAndDragCommands()
+{
+    Command c = parsed("tap entry 4");
+    QCOMPARE(c.kind, Kind::TapEntry);
+    QCOMPARE(c.numbers, numbers({4}));
+    QCOMPARE(parsed("expect entries 15").numbers, numbers({15}));
+    c = parsed("expect entry 0 \"1  Intro\"");
+    QCOMPARE(c.kind, Kind::ExpectEntry);
+    QCOMPARE(c.numbers, numbers({0}));
+    QCOMPARE(c.texts, QStringList{"1  Intro"});
+    c = parsed("expect novisibletext \"RPT ON\"");
+    QCOMPARE(c.kind, Kind::ExpectNoVisibleText);
+    QCOMPARE(c.texts, QStringList{"RPT ON"});
+    c = parsed("drag positionBar 10 100");
+    QCOMPARE(c.kind, Kind::Drag);
+    QCOMPARE(c.name, QString("positionBar"));
+    QCOMPARE(c.numbers, numbers({10, 100}));
+    c = parsed("drag at 100 200 300 -4");
+    QCOMPARE(c.kind, Kind::DragAt);
+    QCOMPARE(c.numbers, numbers({100, 200, 300, -4}));
+    // "entry" alone is an objectName, like the other words of tap.
+    QCOMPARE(parsed("tap entry").kind, Kind::TapObject);
+
+    QVERIFY(refusal("drag positionBar 10 101").contains("to per cent 101 outside 0..100"));
+    QVERIFY(refusal("drag positionBar 10").contains("to per cent missing"));
+    QVERIFY(refusal("drag").contains("drag what?"));
+    QVERIFY(refusal("drag at 1 2 3").contains("y2 missing"));
+    QVERIFY(refusal("expect entry 1").contains("text missing"));
+    QVERIFY(refusal("expect entries").contains("count missing"));
+    QVERIFY(refusal("tap entry x").contains("entry x is not a number"));
 }
 
 QTEST_GUILESS_MAIN(TestScenarioParser)
