@@ -102,7 +102,8 @@ public:
         stack->setCurrentIndex(index);
         page()->createView();
         view = page()->findChild<TableView *>();
-        model = qobject_cast<ListModel1 *>(view->model());
+        // A page of its own widgets has no table.
+        model = view ? qobject_cast<ListModel1 *>(view->model()) : nullptr;
         HostSim::clearSentFrames();
     }
 

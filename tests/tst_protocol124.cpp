@@ -35,14 +35,6 @@ DataBuffer buffer()
     return HostSim::buffer(Protocol);
 }
 
-QList<QByteArray> frames(QStringList const &texts)
-{
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << frame(text);
-    return list;
-}
-
 // A head unit key, pressed and released on a widget; what it ignores goes on
 // to its parents.
 void pressKey(QWidget *widget, int code)
