@@ -23,14 +23,16 @@ function(carcontrol_plugin_code target)
     endif()
 endfunction()
 
-# Every test runs headless, with the artwork that the build draws.
+# Every test runs headless, with the artwork that the build draws, and keeps
+# the head unit's saved settings in a folder of its own, so that tests run
+# side by side don't see each other's.
 function(carcontrol_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;ARGS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE Qt5::Test ${ARG_LIBRARIES})
     add_test(NAME ${name} COMMAND ${name} ${ARG_ARGS})
     set_tests_properties(${name} PROPERTIES ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;CARCONTROL_RESOURCE_ROOT=${CARCONTROL_RESOURCE_ROOT};CARCONTROL_PLUGIN_DIR=${CARCONTROL_PLUGIN_DIR}")
+        "QT_QPA_PLATFORM=offscreen;CARCONTROL_RESOURCE_ROOT=${CARCONTROL_RESOURCE_ROOT};CARCONTROL_PLUGIN_DIR=${CARCONTROL_PLUGIN_DIR};CARCONTROL_STORAGE_DIR=${CMAKE_BINARY_DIR}/storage/${name}")
     add_dependencies(${name} artwork)
 endfunction()
 
