@@ -239,10 +239,13 @@ Row &Row::sendCodes(QList<int> const &codes)
 
 QVariant Row::value(DataBuffer const &buffer) const
 {
-    QVariant raw;
+    // Bytes and words, most rows of every page, are read and mapped as ints;
+    // a refresh runs this for every row.
+    int raw = 0;
     switch (m_source) {
     case NoSource:
-        raw = m_kind == TextKind ? QVariant(QString()) : QVariant(0);
+        if (m_kind == TextKind)
+            return QString();
         break;
     case ByteSource:
         raw = (buffer.byte(m_offset) >> m_shift) & m_mask;
@@ -251,24 +254,33 @@ QVariant Row::value(DataBuffer const &buffer) const
         raw = int(buffer.word(m_offset));
         break;
     case TextSource:
-        raw = buffer.text(m_offset);
-        break;
+        return shown(QVariant(buffer.text(m_offset)));
     case ReaderSource:
-        raw = m_reader(buffer);
-        break;
+        return shown(m_reader(buffer));
     }
     if (m_kind == TextKind)
         return raw;
+    return shownNumber(raw);
+}
+
+QVariant Row::shown(QVariant const &raw) const
+{
+    if (m_kind == TextKind)
+        return raw;
+    if (m_shownCodes.isEmpty() && !m_display)
+        return raw;
+    return shownNumber(raw.toInt());
+}
+
+int Row::shownNumber(int raw) const
+{
     if (!m_shownCodes.isEmpty()) {
-        const int code = raw.toInt();
-        const int option = m_shownCodes.indexOf(code);
+        const int option = m_shownCodes.indexOf(raw);
         if (option >= 0)
             return option;
-        return m_unlisted == UnlistedStandsForItself ? code : -1;
+        return m_unlisted == UnlistedStandsForItself ? raw : -1;
     }
-    if (m_display)
-        return m_display(raw.toInt());
-    return raw;
+    return m_display ? m_display(raw) : raw;
 }
 
 int Row::step(int current, bool down, QList<QVariant> const &options, DataBuffer const &buffer) const

@@ -150,6 +150,10 @@ public:
     QByteArray groupFrameFor(DataBuffer const &buffer, int key) const;
 
 private:
+    // A raw value after the row's code list or display map.
+    QVariant shown(QVariant const &raw) const;
+    int shownNumber(int raw) const;
+
     Row(int kind, const char *title);
 
     enum Source { NoSource, ByteSource, WordSource, TextSource, ReaderSource };
