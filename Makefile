@@ -2,7 +2,7 @@
 # build needs when it is missing (tools/setup.sh), configure and build.
 # `make test-sanitize` runs the whole suite once more, built with
 # AddressSanitizer (leaks included) and UndefinedBehaviorSanitizer, with a
-# longer run of the random-input test.
+# longer run of the random-input test. `make check` runs both, as CI does.
 
 BUILD_DIR ?= build
 SANITIZE_DIR ?= build-sanitize
@@ -16,7 +16,7 @@ SANITIZER_ENV = ASAN_OPTIONS=detect_leaks=1:halt_on_error=1:detect_stack_use_aft
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp:print_suppressions=0
 
-.PHONY: all setup configure build test test-sanitize demo clean
+.PHONY: all setup configure build test test-sanitize check demo clean
 
 all: build
 
@@ -37,6 +37,8 @@ test-sanitize: setup
 	@$(SANITIZER_ENV) cmake --build $(SANITIZE_DIR) -j $(JOBS)
 	@cd $(SANITIZE_DIR) && QT_QPA_PLATFORM=offscreen CARCONTROL_FUZZ_ROUNDS=$(FUZZ_ROUNDS) $(SANITIZER_ENV) \
 		ctest --output-on-failure -j $(JOBS)
+
+check: test test-sanitize
 
 demo: build
 	@sh tools/demo.sh $(BUILD_DIR)
