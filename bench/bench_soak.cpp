@@ -29,7 +29,9 @@
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+// AddressSanitizer's own count of the bytes in use (its allocator replaces
+// malloc's, whose figures then say nothing).
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace {
