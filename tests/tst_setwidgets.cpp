@@ -388,12 +388,6 @@ private slots:
         QVERIFY(item(2)->y() > item(0)->y());
         QCOMPARE(item(4)->x(), item(0)->x());
         QCOMPARE(item(1)->width(), item(0)->width());
-        for (QWidget *w : QList<QWidget *>{page, page->onOff, page->slider, page->grid, item(0),
-                                           page->findChild<OnOffButton *>()})
-            QCOMPARE(w->focusPolicy(), Qt::StrongFocus);
-        QCOMPARE(page->onOff->palette().color(QPalette::Inactive, QPalette::Window), QColor(25, 25, 25));
-        QCOMPARE(page->grid->palette().color(QPalette::Disabled, QPalette::Window), QColor(30, 30, 30, 200));
-        QVERIFY(page->grid->autoFillBackground());
     }
 
     // The switch: on when fresh, off after its pictures, a picture for each
