@@ -2,7 +2,7 @@
 #define COMMON_H
 
 // The page toolkit: rows and their models, the row painters and the page
-// table view; the row editors and dialogs.
+// table view; the row editors and dialogs; the key-driven settings page.
 #include "cdbutton.h"
 #include "listdata.h"
 #include "listdelegate0.h"
@@ -11,9 +11,17 @@
 #include "listdialog.h"
 #include "listmodel0.h"
 #include "listmodel1.h"
+#include "onoffbutton.h"
 #include "optionsitem.h"
+#include "setitem.h"
+#include "setitembase.h"
+#include "setitemsview.h"
+#include "setonoffview.h"
+#include "setpagewidget.h"
+#include "setsliderview.h"
 #include "slider.h"
 #include "sliderviewimte.h"
 #include "tableview.h"
+#include "toolbutton.h"
 
 #endif // COMMON_H

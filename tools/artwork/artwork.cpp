@@ -42,6 +42,9 @@ enum class Style {
     Dial,        // a round gauge face, its value is written over it
     CarBody,     // the car seen from above
     CarPart,     // one door, the hood or the trunk, to lie over the car body
+    Switch,      // an on/off switch: Down is on; a white ring when focused
+    Groove,      // the groove of a slider
+    Handle,      // the handle of a slider; lit and ringed when focused
 };
 
 // The state a picture stands for. Down is the pressed, lit or open state.
@@ -70,6 +73,7 @@ constexpr QRgb Tyre = qRgb(91, 209, 110);
 constexpr QRgb Gauge = qRgb(51, 151, 254);
 constexpr QRgb Rows = qRgb(0, 188, 212);
 constexpr QRgb Keypad = qRgb(150, 132, 220);
+constexpr QRgb Settings = qRgb(47, 120, 255);
 
 struct Picture {
     const char *path;  // relative to the output root; "%1" is the variant
@@ -81,6 +85,7 @@ struct Picture {
     QRgb accent;
     const char *label = "";
     int variants = 1;  // "%1" runs from 0 to variants - 1
+    bool focused = false;
 };
 
 // Short names of the looks, to keep the table narrow.
@@ -211,6 +216,17 @@ const Picture pictures[] = {
     {"exStyle4/page_password.png", 320, 56, Style::Backdrop, N, Glyph::None, Keypad},
     {"exStyle4/del_n.png", 72, 56, Style::Button, N, Glyph::Delete, Keypad},
     {"exStyle4/del_d.png", 72, 56, Style::Button, D, Glyph::Delete, Keypad},
+
+    // Key-driven settings lines: the on/off switch, on and off, with and
+    // without focus; the slider's groove and its handle, with and without
+    // focus.
+    {"exStyle4/switch_on.png", 96, 44, Style::Switch, D, Glyph::None, Settings},
+    {"exStyle4/switch_on_focus.png", 96, 44, Style::Switch, D, Glyph::None, Settings, "", 1, true},
+    {"exStyle4/switch_off.png", 96, 44, Style::Switch, N, Glyph::None, Settings},
+    {"exStyle4/switch_off_focus.png", 96, 44, Style::Switch, N, Glyph::None, Settings, "", 1, true},
+    {"exStyle4/slider_groove.png", 300, 36, Style::Groove, N, Glyph::None, Settings},
+    {"exStyle4/slider_handle.png", 36, 36, Style::Handle, N, Glyph::None, Settings},
+    {"exStyle4/slider_handle_focus.png", 36, 36, Style::Handle, N, Glyph::None, Settings, "", 1, true},
 };
 
 // One file to write: a picture and, for numbered pictures, its number.
@@ -873,6 +889,51 @@ void paintCarBody(QPainter &p, Picture const &picture, QRectF const &box)
     drawCarBody(p, picture.glyph == Glyph::Tyres, QColor(picture.accent));
 }
 
+void paintSwitch(QPainter &p, Picture const &picture, QRectF const &box)
+{
+    const bool on = picture.look == Look::Down;
+    const QColor accent(picture.accent);
+    const QRectF track = box.adjusted(3, 3, -3, -3);
+    const double radius = track.height() / 2;
+    p.setPen(QPen(on ? accent.lighter(140) : QColor(92, 98, 108), 2));
+    p.setBrush(on ? accent : QColor(48, 52, 60));
+    p.drawRoundedRect(track, radius, radius);
+    const double knob = track.height() - 6;
+    const double x = on ? track.right() - 3 - knob : track.left() + 3;
+    p.setPen(Qt::NoPen);
+    p.setBrush(on ? QColor(245, 248, 252) : QColor(150, 156, 166));
+    p.drawEllipse(QRectF(x, track.top() + 3, knob, knob));
+    if (picture.focused) {
+        p.setPen(QPen(Qt::white, 2.5));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(box.adjusted(1.25, 1.25, -1.25, -1.25), radius + 2, radius + 2);
+    }
+}
+
+void paintGroove(QPainter &p, Picture const &picture, QRectF const &box)
+{
+    const double height = 8;
+    const QRectF bar(box.left() + 2, box.center().y() - height / 2, box.width() - 4, height);
+    QLinearGradient fill(bar.topLeft(), bar.topRight());
+    fill.setColorAt(0, QColor(picture.accent).darker(170));
+    fill.setColorAt(1, QColor(picture.accent));
+    p.setPen(QPen(QColor(92, 98, 108), 1));
+    p.setBrush(fill);
+    p.drawRoundedRect(bar, height / 2, height / 2);
+}
+
+void paintHandle(QPainter &p, Picture const &picture, QRectF const &box)
+{
+    const QColor accent(picture.accent);
+    const QRectF knob = box.adjusted(4, 4, -4, -4);
+    QRadialGradient fill(knob.center() - QPointF(3, 3), knob.width() / 2);
+    fill.setColorAt(0, picture.focused ? QColor(255, 255, 255) : QColor(220, 224, 232));
+    fill.setColorAt(1, picture.focused ? accent.lighter(120) : QColor(130, 136, 148));
+    p.setPen(QPen(picture.focused ? QColor(Qt::white) : QColor(70, 74, 82), picture.focused ? 3 : 1.5));
+    p.setBrush(fill);
+    p.drawEllipse(knob);
+}
+
 QImage render(Picture const &picture, int variant)
 {
     QImage image(picture.width, picture.height, QImage::Format_ARGB32_Premultiplied);
@@ -890,6 +951,9 @@ QImage render(Picture const &picture, int variant)
     case Style::Dial: paintDial(p, picture, box); break;
     case Style::CarBody: paintCarBody(p, picture, box); break;
     case Style::CarPart: paintCarPart(p, picture, box); break;
+    case Style::Switch: paintSwitch(p, picture, box); break;
+    case Style::Groove: paintGroove(p, picture, box); break;
+    case Style::Handle: paintHandle(p, picture, box); break;
     }
     p.end();
     return image;
