@@ -2,6 +2,7 @@
 
 #include "pages37.h"
 
+#include "../shared/tyrerows.h"
 #include "airdata.h"
 #include "canobj.h"
 #include "carbodydata.h"
@@ -93,15 +94,6 @@ QList<QVariant> atmosphereColours()
 
 // The ventilation mode goes out as 20, 21 or 22.
 int ventilationCode(int value) { return value + 20; }
-
-// --- 37_8 -----------------------------------------------------------------
-
-template <QString TirePressureInformation::*Pressure>
-QVariant pressure(DataBuffer const &)
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? air->tirePressure.*Pressure : QString();
-}
 
 } // namespace
 
@@ -342,10 +334,5 @@ QList<Row> CarInfoItem37_6::rowTable() const
 
 QList<Row> CarInfoItem37_8::rowTable() const
 {
-    typedef TirePressureInformation Tyres;
-    return QList<Row>()
-        << Row::text("Left front tire pressure value").read(pressure<&Tyres::frontLeftPressure>)
-        << Row::text("Right front tire pressure value").read(pressure<&Tyres::frontRightPressure>)
-        << Row::text("Left rear tire pressure value").read(pressure<&Tyres::rearLeftPressure>)
-        << Row::text("Right rear tire pressure value").read(pressure<&Tyres::rearRightPressure>);
+    return TyreRows::pressureRows();
 }

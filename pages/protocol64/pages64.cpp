@@ -159,12 +159,8 @@ QList<Row> CarInfoItem64_5::rowTable() const
     typedef TirePressureInformation Tyres;
     // The temperatures come as bytes without a stated scale: shown as they are.
     const QList<QVariant> temperatureRange = {0, 255};
-    QList<Row> rows;
-    rows << Row::text("Left front tire pressure value").read(pressure<Tyres::FrontLeft>)
-         << Row::text("Right front tire pressure value").read(pressure<Tyres::FrontRight>)
-         << Row::text("Left rear tire pressure value").read(pressure<Tyres::RearLeft>)
-         << Row::text("Right rear tire pressure value").read(pressure<Tyres::RearRight>)
-         << Row::of(TemperatureKind, "Front left tire pressure temperature", temperatureRange)
+    QList<Row> rows = pressureRows();
+    rows << Row::of(TemperatureKind, "Front left tire pressure temperature", temperatureRange)
                 .read(temperature<Tyres::FrontLeft>)
          << Row::of(TemperatureKind, "Front right tire temperature", temperatureRange)
                 .read(temperature<Tyres::FrontRight>)

@@ -194,11 +194,7 @@ QList<Row> CarInfoItem72_8::rowTable() const
     typedef TirePressureInformation Tyres;
     // The temperatures come as bytes without a stated scale: shown as they are.
     const QList<QVariant> temperatureRange = {0, 255};
-    return QList<Row>()
-        << Row::text("Left front tire pressure value").read(pressure<Tyres::FrontLeft>)
-        << Row::text("Right front tire pressure value").read(pressure<Tyres::FrontRight>)
-        << Row::text("Left rear tire pressure value").read(pressure<Tyres::RearLeft>)
-        << Row::text("Right rear tire pressure value").read(pressure<Tyres::RearRight>)
+    return pressureRows()
         << Row::choice("Tire pressure front left", {"normal", "abnormal"}).read(status<Tyres::FrontLeft>)
         << Row::choice("Tire pressure front right", {"normal", "abnormal"}).read(status<Tyres::FrontRight>)
         << Row::choice("Tire pressure back left", {"normal", "abnormal"}).read(status<Tyres::RearLeft>)
