@@ -21,15 +21,12 @@
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 
+using PageTest::discEntries;
 using PageTest::frame;
 using PageTest::hex;
+using namespace PageTest::Keys;
 
 namespace {
-
-const int Enter = 0x1100041, RemoteEnter = 0x1400009;
-const int Up = 0x110003F, RemoteUp = 0x140000A, Down = 0x1100040, RemoteDown = 0x140000B;
-const int Left = 0x110003D, RemoteLeft = 0x140000C, Right = 0x110003E, RemoteRight = 0x140000D;
-const int Next = 0x110004D, Previous = 0x110004E, Back = 0x110002A;
 
 // A parent that records the events its children let through.
 class Parent : public QWidget
@@ -92,14 +89,6 @@ QString writeImage(QTemporaryDir const &dir, QString const &name, QSize const &s
     const QString path = dir.filePath(name);
     image.save(path);
     return path;
-}
-
-QList<DateInfo> discEntries(int count, int first = 1)
-{
-    QList<DateInfo> entries;
-    for (int i = 0; i < count; ++i)
-        entries << DateInfo(quint16(first + i), QString("Track %1").arg(first + i));
-    return entries;
 }
 
 } // namespace

@@ -6,13 +6,6 @@
 #include "tst_protocol28.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
-#include "tirepressure.h"
-
-#include <QPointer>
 
 #include <cstring>
 
@@ -28,14 +21,6 @@ QStringList series(int group, std::initializer_list<int> qualifiers)
     for (int q : qualifiers)
         texts << QString("2E 90 02 %1 %2 ck").arg(group, 2, 16, QChar('0')).arg(q, 2, 16, QChar('0'));
     return texts;
-}
-
-QList<QByteArray> frames(QStringList const &texts)
-{
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << frame(text);
-    return list;
 }
 
 // Fifteen 16-bit values in host order, as the energy history holds them.
@@ -521,63 +506,30 @@ private slots:
     // rows, and follows the car's data while it is in front.
     void extendedViewShowsLivePages()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
-        struct Case
-        {
-            int rows;
-            int row;
-            std::function<void()> change;
-            QString shown;
-        };
-        const QList<Case> cases = {
-            {18, 0, [] { buffer().setByte(36, 1); }, "open"},
-            {7, 1, [] { buffer().setByte(106, 12); }, "3"},
-            {116, 114, [] { buffer().setByte(230, 0x2B); }, "Ukraine"},
-            {21, 0, [] { buffer().setText(236, "642 km"); }, "642 km"},
-            {40, 5, [] { buffer().setByte(330, 76); }, "76"},
-            {10, 0, [] { HostSim::airData()->tirePressure.frontLeftPressure = "2.4 bar"; }, "2.4 bar"},
-            {5, 4, [] { buffer().setByte(364, 1); }, "ON"},
-            {61, 60, [] { buffer().setByte(428, 1); }, "Bullet frame"},
-        };
-        for (int index = 0; index < cases.size(); ++index) {
-            const QModelIndex title = list->model()->index(index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
-            QVERIFY(stack->isVisible());
-            QCOMPARE(stack->currentIndex(), index);
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), cases.at(index).rows);
-            cases.at(index).change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(cases.at(index).row, 0).data(DisplayValueRole).toString(),
-                     cases.at(index).shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
-        }
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        v.expectLivePages({
+            {Parking, 18, 0, [] { buffer().setByte(36, 1); }, "open"},
+            {Amplifier, 7, 1, [] { buffer().setByte(106, 12); }, "3"},
+            {Settings, 116, 114, [] { buffer().setByte(230, 0x2B); }, "Ukraine"},
+            {Driving, 21, 0, [] { buffer().setText(236, "642 km"); }, "642 km"},
+            {Energy, 40, 5, [] { buffer().setByte(330, 76); }, "76"},
+            {Tyres, 10, 0, [] { HostSim::airData()->tirePressure.frontLeftPressure = "2.4 bar"; }, "2.4 bar"},
+            {Condition, 5, 4, [] { buffer().setByte(364, 1); }, "ON"},
+            {Electric, 61, 60, [] { buffer().setByte(428, 1); }, "Bullet frame"},
+        });
+        if (QTest::currentTestFailed())
+            return;
 
         // The tyre row opens the panel, whose reset sends its frame.
-        const QModelIndex tyres = list->model()->index(Tyres, 0);
-        list->scrollTo(tyres);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(tyres).center());
+        v.open(Tyres);
         // The requests of the pages opened so far go out first, this page's last.
         QTRY_COMPARE(HostSim::sentFrames().value(HostSim::sentFrames().size() - 1), frame("2E 90 02 68 00 ck"));
-        HostSim::clearSentFrames();
-        tap(view->findChild<CarExViewBase *>()->currentWidget()->findChild<TableView *>(), 8, Middle);
-        auto *panel = view->findChild<TirePressure *>("tirePressure");
+        TirePressure *panel = v.openTyrePanel(8);
         QVERIFY(panel && panel->isVisible());
-        auto *reset = panel->findChild<QWidget *>("resetButton");
-        QTest::mouseClick(reset, Qt::LeftButton, {}, reset->rect().center());
+        v.tapReset(panel);
         QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 22 01 ck")}));
         QVERIFY(!panel->isVisible());
-        delete view;
     }
 };
 

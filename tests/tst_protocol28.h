@@ -1,10 +1,10 @@
 // What the tests of protocol 28's pages share: the protocol's buffer, its
-// common setting frame, and its pages on a window (pagetests.h).
+// common setting frame, and its pages on a window and in the extended view (exviewtests.h).
 
 #ifndef TST_PROTOCOL28_H
 #define TST_PROTOCOL28_H
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 namespace P28 {
 
@@ -15,7 +15,9 @@ inline DataBuffer buffer()
     return HostSim::buffer(Protocol);
 }
 
+using PageTest::ExtendedView;
 using PageTest::frame;
+using PageTest::frames;
 using PageTest::hex;
 using PageTest::Zone;
 using PageTest::LeftArrow;

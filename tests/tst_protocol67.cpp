@@ -4,21 +4,17 @@
 // checksum bytes; the group frames with the buffer that they are built
 // from; the saved model; the pages live in the extended view.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
 
-#include <QPointer>
-
+using PageTest::ExtendedView;
 using PageTest::frame;
 using PageTest::hex;
 using PageTest::LeftArrow;
 using PageTest::Middle;
 using PageTest::RightArrow;
+using PageTest::sent;
 
 namespace {
 
@@ -44,8 +40,7 @@ DataBuffer buffer()
 
 void setBytes(int offset, QList<int> const &bytes)
 {
-    for (int i = 0; i < bytes.size(); ++i)
-        buffer().setByte(offset + i, quint8(bytes.at(i)));
+    PageTest::setBytes(buffer(), offset, bytes);
 }
 
 QList<int> bytesAt(int offset, int count)
@@ -63,15 +58,7 @@ QByteArray fd(QString const &text)
 
 QList<QByteArray> fds(QStringList const &texts)
 {
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << fd(text);
-    return list;
-}
-
-QString sent()
-{
-    return hex(HostSim::sentFrames());
+    return PageTest::frames(texts, Protocol);
 }
 
 // The frame that a read-only page keeps: FD 05 84, nothing else set.
@@ -740,22 +727,9 @@ private slots:
     // while they are in front.
     void extendedViewShowsLivePages()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
-        struct Case
-        {
-            int index;
-            int rows;
-            int row;
-            std::function<void()> change;
-            QString shown;
-        };
-        const QList<Case> cases = {
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        v.expectLivePages({
             {Amplifier, 6, 3, [] { setBytes(379, {12}); }, "2"},
             {DriveModes, 15, 3, [] { setBytes(355, {0xFE}); }, "none"},
             {ChargeAmounts, 9, 1, [] { setBytes(320, {45}); }, "90%"},
@@ -766,24 +740,7 @@ private slots:
             {Panorama, 8, 0, [] { setBytes(196, {2}); }, "Current is backward view"},
             {Tyres, 28, 0, [] { HostSim::airData()->tirePressure.frontLeftPressure = "2.6 bar"; }, "2.6 bar"},
             {Body, 16, 15, [] { setBytes(174, {1}); }, "English"},
-        };
-        for (Case const &c : cases) {
-            const QModelIndex title = list->model()->index(c.index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
-            QVERIFY(stack->isVisible());
-            QCOMPARE(stack->currentIndex(), c.index);
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), c.rows);
-            c.change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(c.row, 0).data(DisplayValueRole).toString(), c.shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
-        }
-        delete view;
+        });
     }
 };
 

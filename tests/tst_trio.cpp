@@ -4,14 +4,9 @@
 // frames that a step on a read-only row sends, byte for byte; and the pages
 // live in the extended view of each member's id.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
 
-#include <QPointer>
 
 #include <cstring>
 
@@ -574,13 +569,8 @@ private slots:
         QFETCH(int, protocol);
         Member const &m = member(protocol);
         HostSim::setProtocolId(protocol);
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
+        ExtendedView v;
+        QVERIFY(v.exposed());
         DataBuffer data = HostSim::buffer(protocol);
         struct Case
         {
@@ -598,24 +588,16 @@ private slots:
              [&] { data.setText(m.vehicleOffset + 24, QStringLiteral("88 km/h")); }, "88 km/h"},
         };
         for (Case const &c : cases) {
-            const QModelIndex title = list->model()->index(c.index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
+            CarExViewBase *stack = v.open(c.index);
             QVERIFY(stack->isVisible());
             QCOMPARE(stack->currentIndex(), c.index);
-            auto *page = qobject_cast<CarInfoItem *>(stack->currentWidget());
-            QCOMPARE(page->getTitle(), c.title);
-            auto *table = page->findChild<TableView *>();
-            QVERIFY(table);
-            QVERIFY(table->isVisible());
-            c.change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(c.row, 0).data(DisplayValueRole).toString(), c.shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
+            QCOMPARE(v.page()->getTitle(), c.title);
+            QVERIFY(v.table());
+            QVERIFY(v.table()->isVisible());
+            QCOMPARE(v.shownAfter(c.change, c.row), c.shown);
+            v.back();
+            QVERIFY(v.list->isVisible());
         }
-        delete view;
     }
 };
 
