@@ -76,6 +76,16 @@ inline QString hex(QList<QByteArray> const &frames)
     return texts.join(" | ");
 }
 
+// The pattern once for each value from first to last, "%1" standing for
+// the value in two hex digits.
+inline QStringList series(QString const &pattern, int first, int last)
+{
+    QStringList texts;
+    for (int value = first; value <= last; ++value)
+        texts.append(pattern.arg(QString::number(value, 16).toUpper().rightJustified(2, QChar('0'))));
+    return texts;
+}
+
 // Frames written as in the tables, as hex() shows them.
 inline QString hexOf(QStringList const &texts, int protocol = 0)
 {
@@ -240,6 +250,14 @@ public:
     TableView *view = nullptr;
     ListModel1 *model = nullptr;
     QList<QByteArray> signalled;
+};
+
+// A page of one family's stack, by its index in the stack.
+template <int Protocol>
+class FamilyPage : public Page
+{
+public:
+    explicit FamilyPage(int index) : Page(Protocol, index) {}
 };
 
 } // namespace PageTest

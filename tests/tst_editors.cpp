@@ -24,6 +24,7 @@
 using PageTest::discEntries;
 using PageTest::frame;
 using PageTest::hex;
+using PageTest::sent;
 using namespace PageTest::Keys;
 
 namespace {
@@ -601,14 +602,14 @@ private slots:
 
         const QModelIndex second = list->model()->index(1, 0);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(second).center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 01 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 01 02 00 00 ck")}));
         QVERIFY(dialog->isVisible());
         HostSim::clearSentFrames();
 
         auto *button = dialog->findChild<CDButton *>();
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
         // S = 0x010F, the 15th entry; E = min(15 + 15, 0x0123) = 30.
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 01 0F 00 1E ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 01 0F 00 1E ck")}));
         HostSim::clearSentFrames();
 
         // The answer grew the list; the next press starts at its end.
@@ -617,7 +618,7 @@ private slots:
         dialog->setListInfo(data.entries(68));
         QVERIFY(button->isUsable());
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 00 12 00 14 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 00 12 00 14 ck")}));
         HostSim::clearSentFrames();
 
         // A slot call from elsewhere sends nothing.
@@ -646,7 +647,7 @@ private slots:
         QCOMPARE(list->model()->index(1, 0).data().toString(), QString("65535  b"));
 
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 0)).center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 FF FF 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 FF FF 00 00 ck")}));
         HostSim::clearSentFrames();
         // The last entry is the total: nothing more to fetch.
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
@@ -658,7 +659,7 @@ private slots:
         QVERIFY(HostSim::sentFrames().isEmpty());
         data.setWord(56, 9);
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 00 00 00 09 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 00 00 00 09 ck")}));
         HostSim::clearSentFrames();
 
         // With all entries there the button is blocked; made usable by

@@ -20,17 +20,9 @@
 
 using PageTest::hex;
 using PageTest::hexOf;
+using PageTest::series;
 
 namespace {
-
-// The pattern once for each value, "%1" standing for it in two hex digits.
-QStringList series(QString const &pattern, int first, int last)
-{
-    QStringList texts;
-    for (int value = first; value <= last; ++value)
-        texts.append(pattern.arg(QString::number(value, 16).toUpper().rightJustified(2, QChar('0'))));
-    return texts;
-}
 
 const QStringList vehicleParts = series("2E 90 02 7D %1 ck", 0, 0x10);
 

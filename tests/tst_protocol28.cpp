@@ -96,7 +96,7 @@ private slots:
         QList<QByteArray> received;
         for (QList<QVariant> const &arguments : spy)
             received << arguments.at(0).toByteArray();
-        QCOMPARE(hex(received), hex(frames(expected)));
+        QCOMPARE(hex(received), hexOf(expected));
         QVERIFY(HostSim::sentFrames().isEmpty());
     }
 
@@ -170,7 +170,7 @@ private slots:
                      << QString("2E A8 02 %1 %2 ck").arg(row, 2, 16, QChar('0'))
                             .arg(qMin(highest[row], bytes[row] + 1), 2, 16, QChar('0'));
         }
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected)));
+        QCOMPARE(sent(), hexOf(expected));
         QVERIFY(p.signalled.isEmpty());
         for (int row = 0; row < 7; ++row)
             QCOMPARE(p.shown(row), shown.at(row));
@@ -205,7 +205,7 @@ private slots:
 
         // Read-only rows; the page's step keeps the bare setting frame.
         p.step(3, false);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C6 02 00 00 ck")}));
     }
 
     void energyDisplay()
@@ -246,7 +246,7 @@ private slots:
         QCOMPARE(p.shown(11), QString("9.9kWh"));
 
         p.step(0, true);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C6 02 00 00 ck")}));
     }
 
     // History arrays shorter than 30 bytes leave their rows empty until a
@@ -344,11 +344,11 @@ private slots:
         p.tap(4, RightArrow);
         p.tap(4, LeftArrow);
         p.tap(1, RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames({"2E C6 02 8C 01 ck", "2E C6 02 8C 00 ck"})));
+        QCOMPARE(sent(), hexOf({"2E C6 02 8C 01 ck", "2E C6 02 8C 00 ck"}));
         QCOMPARE(p.shown(4), QString("OFF"));
         HostSim::clearSentFrames();
         p.step(0, false);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C6 02 00 00 ck")}));
 
         QCOMPARE(p.changedRows([&] {
             data.setText(352, QStringLiteral("18 000 km"));
@@ -436,7 +436,7 @@ private slots:
         p.show();
         const QString before = p.shown(row);
         p.tap(row, down ? LeftArrow : RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame(expected)}));
+        QCOMPARE(sent(), hex({frame(expected)}));
         QVERIFY(p.signalled.isEmpty());
         QCOMPARE(p.shown(row), before);
     }
@@ -493,10 +493,10 @@ private slots:
         p.tap(3, RightArrow);
         p.tap(4, RightArrow);
         p.tap(4, RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames({"2E A5 0A 01 08 1E E3 7C 16 00 06 00 50 ck",
+        QCOMPARE(sent(), hexOf({"2E A5 0A 01 08 1E E3 7C 16 00 06 00 50 ck",
                                                           "2E A5 0A 01 08 1E E3 7C 16 00 06 00 50 ck",
                                                           "2E A5 0A 01 08 23 E3 7C 16 00 06 00 50 ck",
-                                                          "2E A5 0A 01 08 28 E3 7C 16 00 06 00 50 ck"})));
+                                                          "2E A5 0A 01 08 28 E3 7C 16 00 06 00 50 ck"}));
         // The next refresh shows what the buffer holds now.
         QCOMPARE(p.changedRows([] {}), (QList<int>{3, 4}));
         QCOMPARE(p.shown(4), QString("40"));
@@ -528,7 +528,7 @@ private slots:
         TirePressure *panel = v.openTyrePanel(8);
         QVERIFY(panel && panel->isVisible());
         v.tapReset(panel);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 22 01 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C6 02 22 01 ck")}));
         QVERIFY(!panel->isVisible());
     }
 };

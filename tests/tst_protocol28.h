@@ -19,6 +19,8 @@ using PageTest::ExtendedView;
 using PageTest::frame;
 using PageTest::frames;
 using PageTest::hex;
+using PageTest::hexOf;
+using PageTest::sent;
 using PageTest::Zone;
 using PageTest::LeftArrow;
 using PageTest::RightArrow;
@@ -32,11 +34,7 @@ inline QByteArray setting(int sub, int value)
 }
 
 // One page of protocol 28's stack.
-class Page : public PageTest::Page
-{
-public:
-    explicit Page(int index) : PageTest::Page(Protocol, index) {}
-};
+typedef PageTest::FamilyPage<Protocol> Page;
 
 } // namespace P28
 

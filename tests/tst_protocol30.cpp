@@ -688,8 +688,8 @@ private slots:
         p.tap(11, RightArrow);
         p.tap(6, RightArrow);
         p.tap(18, Middle);
-        QCOMPARE(sent(), hex(frames({setting(0x84, 0x60, 1), setting(0x84, 0x60, 0),
-                                                          setting(0x84, 0x61, 0), setting(0x84, 0x61, 1)})));
+        QCOMPARE(sent(), hexOf({setting(0x84, 0x60, 1), setting(0x84, 0x60, 0),
+                                                          setting(0x84, 0x61, 0), setting(0x84, 0x61, 1)}));
         QCOMPARE(p.shown(10), QString("OFF"));
         QCOMPARE(p.shown(11), QString("Lock up"));
         QCOMPARE(p.changedRows([] { buffer().setByte(206, 1); }), QList<int>{10});

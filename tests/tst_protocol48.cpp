@@ -31,12 +31,7 @@ DataBuffer buffer()
     return HostSim::buffer(Protocol);
 }
 
-// A page of the family on a window, built.
-class Page : public PageTest::Page
-{
-public:
-    explicit Page(int index) : PageTest::Page(Protocol, index) {}
-};
+typedef PageTest::FamilyPage<Protocol> Page;
 
 } // namespace
 

@@ -64,10 +64,10 @@ QList<QByteArray> fds(QStringList const &texts)
 // The frame that a read-only page keeps: FD 05 84, nothing else set.
 const char *const Skeleton = "FD 05 84 00 ck ck";
 
-class Page : public PageTest::Page
+class Page : public PageTest::FamilyPage<Protocol>
 {
 public:
-    explicit Page(int index) : PageTest::Page(Protocol, index) {}
+    using FamilyPage::FamilyPage;
 
     void expectShown(QStringList const &texts)
     {

@@ -63,14 +63,6 @@ Member const &member(int protocol)
     return memberList().first();
 }
 
-QStringList seventeen(QString const &pattern)
-{
-    QStringList texts;
-    for (int i = 0; i <= 16; ++i)
-        texts << pattern.arg(i, 2, 16, QChar('0'));
-    return texts;
-}
-
 void clearBuffer(int protocol)
 {
     DataBuffer data = HostSim::buffer(protocol);
@@ -280,7 +272,7 @@ private slots:
         QTest::addColumn<QStringList>("expected");
         const QStringList voice = {"2E 90 02 7D EF ck"};
         const QStringList function = {"2E 90 02 7E 00 ck"};
-        const QStringList vehicle = seventeen("2E 90 02 7D %1 ck");
+        const QStringList vehicle = series("2E 90 02 7D %1 ck", 0, 16);
         for (Member const &m : memberList()) {
             const QString name = QString::number(m.protocol);
             if (m.protocol == 67)
@@ -301,7 +293,7 @@ private slots:
         QTest::newRow("122 index 4") << 122 << 4 << QStringList{"2E 90 02 7D 06 ck"};
         QTest::newRow("67 voice") << 67 << 0 << QStringList{"FD 06 90 7E EF ck ck"};
         QTest::newRow("67 function") << 67 << 1 << QStringList{"FD 06 90 7E 00 ck ck"};
-        QTest::newRow("67 vehicle") << 67 << 2 << seventeen("FD 90 06 7D %1 ck ck");
+        QTest::newRow("67 vehicle") << 67 << 2 << series("FD 90 06 7D %1 ck ck", 0, 16);
     }
     void requests()
     {
@@ -312,7 +304,7 @@ private slots:
         QWidget window;
         CarExViewBase *stack = createPageStack(protocol, &window);
         stack->showIndex(index);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected, protocol)));
+        QCOMPARE(sent(), hexOf(expected, protocol));
     }
 
     // The voice states, the current window and the seat choice, by byte.
@@ -505,7 +497,7 @@ private slots:
         const int before = p.value(row);
         p.step(row, down);
         const QList<QByteArray> sent = HostSim::sentFrames();
-        QCOMPARE(hex(sent), hex(frames(expected, protocol)));
+        QCOMPARE(hex(sent), hexOf(expected, protocol));
         for (QByteArray const &f : sent)
             QCOMPARE(f.size(), protocol == 67 ? 8 : 7);
         // The row waits for the car.
@@ -556,7 +548,7 @@ private slots:
         QVERIFY(HostSim::sentFrames().isEmpty());
 
         p.step(row, down);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected, protocol)));
+        QCOMPARE(sent(), hexOf(expected, protocol));
         QCOMPARE(p.shown(row), shownAfter);
         QVERIFY(p.signalled.isEmpty());
     }
