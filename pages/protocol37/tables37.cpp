@@ -2,8 +2,8 @@
 
 #include "pages37.h"
 
+#include "../shared/climaterows.h"
 #include "../shared/tyrerows.h"
-#include "airdata.h"
 #include "canobj.h"
 #include "carbodydata.h"
 #include "datasavecontrol.h"
@@ -34,12 +34,6 @@ int orientationCode(int value) { return value == 0 ? 3 : 4; }
 QByteArray panoramaFrame(int, int value) { return Frames::make2E(0x99, {value, 0, 0, 0, 0, 0}); }
 QByteArray languageFrame(int, int value) { return Frames::make2E(0x87, {value}); }
 QByteArray warningVolumeFrame(int, int value) { return Frames::make2E(0x88, {value}); }
-
-QVariant outsideTemperature(DataBuffer const &)
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? air->outsideTemperature : QString();
-}
 
 // The small light's switch is a signed byte: a negative one (no such
 // light) shows as off.
@@ -121,7 +115,7 @@ QList<Row> CarInfoItem37_1::rowTable() const
          << Row::text("Speed signal").textAt(92)
          << Row::choice("Reversing radar switch information", {"Parking sensor off", "Reversing radar is on"})
                 .at(96)
-         << Row::text("Outdoor temperature").read(outsideTemperature)
+         << Row::text("Outdoor temperature").read(ClimateRows::outsideTemperature)
          << Row::choice("Small light switch indication", {"OFF", "ON"}).read(smallLightSwitch)
          << Row::of(NumberKind, "Small light brightness level", {0, 11}).read(smallLightLevel);
     // Rows 15 to 22: the two trip computers, four texts each.
