@@ -5,14 +5,6 @@
 
 namespace {
 
-// The tyre temperatures are whole degrees Celsius.
-const int Celsius = 0;
-
-Row tyreTemperature(const char *title, Row::Reader reader)
-{
-    return Row::of(TemperatureKind, title, {0, 255}).read(reader).unit(Celsius);
-}
-
 Row tyreAlarm(const char *title, Row::Reader reader)
 {
     return Row::choice(title, {"normal", "High voltage warning", "Low pressure warning", "Rapid leakage",
@@ -29,10 +21,10 @@ QList<Row> CarInfoItem48_9::rowTable() const
     using namespace TyreRows;
     typedef TirePressureInformation Tyres;
     return pressureRows()
-        << tyreTemperature("Front left tire pressure temperature", temperature<Tyres::FrontLeft>)
-        << tyreTemperature("Front right tire temperature", temperature<Tyres::FrontRight>)
-        << tyreTemperature("Rear left tire temperature", temperature<Tyres::RearLeft>)
-        << tyreTemperature("Rear right tire temperature", temperature<Tyres::RearRight>)
+        << temperatureRow("Front left tire pressure temperature", temperature<Tyres::FrontLeft>)
+        << temperatureRow("Front right tire temperature", temperature<Tyres::FrontRight>)
+        << temperatureRow("Rear left tire temperature", temperature<Tyres::RearLeft>)
+        << temperatureRow("Rear right tire temperature", temperature<Tyres::RearRight>)
         << tyreAlarm("Front left tire", status<Tyres::FrontLeft>)
         << tyreAlarm("Front right tire", status<Tyres::FrontRight>)
         << tyreAlarm("Rear left tire", status<Tyres::RearLeft>)

@@ -16,9 +16,10 @@ QVariant beyondRecord(DataBuffer const &)
     return -1;
 }
 
-Row temperatureRow(const char *title, Row::Reader reader)
+// A temperature counted from the zero point.
+Row shiftedTemperatureRow(const char *title, Row::Reader reader)
 {
-    return Row::of(TemperatureKind, title, {0, 40, 255}).read(reader);
+    return Row::of(TemperatureKind, title, {0, ZeroDegrees, 255}).read(reader);
 }
 
 Row stateRow(const char *title, std::initializer_list<const char *> options)
@@ -47,10 +48,10 @@ QList<Row> CarInfoItem67_12::rowTable() const
     using namespace TyreRows;
     typedef TirePressureInformation Tyres;
     return Family67::numbered(pressureRows()
-        << temperatureRow("Temperature-front reft", temperature<Tyres::FrontLeft, ZeroDegrees>)
-        << temperatureRow("Temperature-front right", temperature<Tyres::FrontRight, ZeroDegrees>)
-        << temperatureRow("Temperature-back left", temperature<Tyres::RearLeft, ZeroDegrees>)
-        << temperatureRow("Temperature-back right", temperature<Tyres::RearRight, ZeroDegrees>)
+        << shiftedTemperatureRow("Temperature-front reft", temperature<Tyres::FrontLeft, ZeroDegrees>)
+        << shiftedTemperatureRow("Temperature-front right", temperature<Tyres::FrontRight, ZeroDegrees>)
+        << shiftedTemperatureRow("Temperature-back left", temperature<Tyres::RearLeft, ZeroDegrees>)
+        << shiftedTemperatureRow("Temperature-back right", temperature<Tyres::RearRight, ZeroDegrees>)
         << sensorFault("Rear right sensor fault status")
         << sensorFault("Rear left sensor fault status")
         << sensorFault("Front right sensor fault status")

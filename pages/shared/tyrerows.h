@@ -66,6 +66,12 @@ inline QList<Row> pressureRows()
         << Row::text("Right rear tire pressure value").read(pressure<Tyres::RearRight>);
 }
 
+// A tyre temperature row: the byte as it stands, in whole degrees Celsius.
+inline Row temperatureRow(const char *title, Row::Reader reader)
+{
+    return Row::of(TemperatureKind, title, {0, 255}).read(reader);
+}
+
 } // namespace TyreRows
 
 #endif // TYREROWS_H
