@@ -8,12 +8,15 @@
 #include "carexviewbase.h"
 #include "carinfoitem.h"
 #include "catalogue.h"
+#include "dateinfo.h"
 #include "hostsim.h"
 #include "listdata.h"
 #include "listmodel1.h"
 #include "tableview.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -73,6 +76,76 @@ inline QString hex(QList<QByteArray> const &frames)
     return texts.join(" | ");
 }
 
+// The pattern once for each value from first to last, "%1" standing for
+// the value in two hex digits.
+inline QStringList series(QString const &pattern, int first, int last)
+{
+    QStringList texts;
+    for (int value = first; value <= last; ++value)
+        texts.append(pattern.arg(QString::number(value, 16).toUpper().rightJustified(2, QChar('0'))));
+    return texts;
+}
+
+// Frames written as in the tables, as hex() shows them.
+inline QString hexOf(QStringList const &texts, int protocol = 0)
+{
+    return hex(frames(texts, protocol));
+}
+
+// What went straight to the decoder box so far.
+inline QString sent()
+{
+    return hex(HostSim::sentFrames());
+}
+
+// The same, cleared afterwards.
+inline QString takeSent()
+{
+    const QString text = sent();
+    HostSim::clearSentFrames();
+    return text;
+}
+
+// A byte as two lower-case hex digits, for frames written in code.
+inline QString byteText(int value)
+{
+    return QString("%1").arg(value & 0xFF, 2, 16, QChar('0'));
+}
+
+// Bytes written one after the other into a buffer from offset on.
+inline void setBytes(DataBuffer data, int offset, QList<int> const &bytes)
+{
+    for (int i = 0; i < bytes.size(); ++i)
+        data.setByte(offset + i, quint8(bytes.at(i)));
+}
+
+// A head unit key, pressed and released on a widget; what it ignores goes on
+// to its parents.
+inline void pressKey(QWidget *widget, int code)
+{
+    QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier);
+    QApplication::sendEvent(widget, &press);
+    QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier);
+    QApplication::sendEvent(widget, &release);
+}
+
+// A disc's track list: count tracks numbered from first on.
+inline QList<DateInfo> discEntries(int count, int first = 1)
+{
+    QList<DateInfo> entries;
+    for (int i = 0; i < count; ++i)
+        entries << DateInfo(quint16(first + i), QString("Track %1").arg(first + i));
+    return entries;
+}
+
+// The head unit's key codes: its own keys and the steering wheel remote's.
+namespace Keys {
+const int Enter = 0x1100041, RemoteEnter = 0x1400009;
+const int Up = 0x110003F, RemoteUp = 0x140000A, Down = 0x1100040, RemoteDown = 0x140000B;
+const int Left = 0x110003D, RemoteLeft = 0x140000C, Right = 0x110003E, RemoteRight = 0x140000D;
+const int Next = 0x110004D, Previous = 0x110004E, Back = 0x110002A;
+} // namespace Keys
+
 enum Zone { LeftArrow, RightArrow, Middle };
 
 // A finger on a zone of a row of a page's table, the row scrolled into
@@ -122,7 +195,38 @@ public:
     int value(int row) const { return index(row).data(ValueRole).toInt(); }
     bool adjustable(int row) const { return index(row).data(AdjustableRole).toBool(); }
 
+    QStringList titles() const
+    {
+        QStringList texts;
+        for (int row = 0; row < rows(); ++row)
+            texts << title(row);
+        return texts;
+    }
+    QStringList shownTexts() const
+    {
+        QStringList texts;
+        for (int row = 0; row < rows(); ++row)
+            texts << shown(row);
+        return texts;
+    }
+    QList<int> adjustableRows() const
+    {
+        QList<int> list;
+        for (int row = 0; row < rows(); ++row) {
+            if (adjustable(row))
+                list << row;
+        }
+        return list;
+    }
+
     void tap(int row, Zone zone) { PageTest::tap(view, row, zone); }
+    // The frames that one tap on an arrow sends, as hex() shows them.
+    QString arrow(int row, bool down)
+    {
+        HostSim::clearSentFrames();
+        tap(row, down ? LeftArrow : RightArrow);
+        return takeSent();
+    }
     // A step that no arrow can give: a read-only row reached by other means.
     void step(int row, bool down)
     {
@@ -146,6 +250,14 @@ public:
     TableView *view = nullptr;
     ListModel1 *model = nullptr;
     QList<QByteArray> signalled;
+};
+
+// A page of one family's stack, by its index in the stack.
+template <int Protocol>
+class FamilyPage : public Page
+{
+public:
+    explicit FamilyPage(int index) : Page(Protocol, index) {}
 };
 
 } // namespace PageTest

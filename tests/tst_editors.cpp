@@ -21,15 +21,13 @@
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 
+using PageTest::discEntries;
 using PageTest::frame;
 using PageTest::hex;
+using PageTest::sent;
+using namespace PageTest::Keys;
 
 namespace {
-
-const int Enter = 0x1100041, RemoteEnter = 0x1400009;
-const int Up = 0x110003F, RemoteUp = 0x140000A, Down = 0x1100040, RemoteDown = 0x140000B;
-const int Left = 0x110003D, RemoteLeft = 0x140000C, Right = 0x110003E, RemoteRight = 0x140000D;
-const int Next = 0x110004D, Previous = 0x110004E, Back = 0x110002A;
 
 // A parent that records the events its children let through.
 class Parent : public QWidget
@@ -92,14 +90,6 @@ QString writeImage(QTemporaryDir const &dir, QString const &name, QSize const &s
     const QString path = dir.filePath(name);
     image.save(path);
     return path;
-}
-
-QList<DateInfo> discEntries(int count, int first = 1)
-{
-    QList<DateInfo> entries;
-    for (int i = 0; i < count; ++i)
-        entries << DateInfo(quint16(first + i), QString("Track %1").arg(first + i));
-    return entries;
 }
 
 } // namespace
@@ -612,14 +602,14 @@ private slots:
 
         const QModelIndex second = list->model()->index(1, 0);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(second).center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 01 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 01 02 00 00 ck")}));
         QVERIFY(dialog->isVisible());
         HostSim::clearSentFrames();
 
         auto *button = dialog->findChild<CDButton *>();
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
         // S = 0x010F, the 15th entry; E = min(15 + 15, 0x0123) = 30.
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 01 0F 00 1E ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 01 0F 00 1E ck")}));
         HostSim::clearSentFrames();
 
         // The answer grew the list; the next press starts at its end.
@@ -628,7 +618,7 @@ private slots:
         dialog->setListInfo(data.entries(68));
         QVERIFY(button->isUsable());
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 00 12 00 14 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 00 12 00 14 ck")}));
         HostSim::clearSentFrames();
 
         // A slot call from elsewhere sends nothing.
@@ -657,7 +647,7 @@ private slots:
         QCOMPARE(list->model()->index(1, 0).data().toString(), QString("65535  b"));
 
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 0)).center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 FF FF 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 FF FF 00 00 ck")}));
         HostSim::clearSentFrames();
         // The last entry is the total: nothing more to fetch.
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
@@ -669,7 +659,7 @@ private slots:
         QVERIFY(HostSim::sentFrames().isEmpty());
         data.setWord(56, 9);
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C7 05 11 00 00 00 09 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C7 05 11 00 00 00 09 ck")}));
         HostSim::clearSentFrames();
 
         // With all entries there the button is blocked; made usable by

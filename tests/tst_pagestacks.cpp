@@ -2,6 +2,8 @@
 // the decoder box, byte for byte, and the timers that keep asking while a
 // page stays in front.
 
+#include "pagetests.h"
+
 #include "canobj.h"
 #include "carexviewbase.h"
 #include "carinfoitem.h"
@@ -16,66 +18,13 @@
 
 #include <memory>
 
+using PageTest::hex;
+using PageTest::hexOf;
+using PageTest::series;
+
 namespace {
 
-// A frame written as in the protocol tables, "2E 90 02 25 00 ck", with the
-// checksum slots filled by the decoder box's rule: 2E frames end in 0xFF
-// XOR the low byte of the sum of bytes 1 to size - 2; FD frames of
-// protocol 67 in the 16-bit sum of bytes 1 to size - 3, high byte first;
-// other FD frames in the low byte of the sum of bytes 1 to size - 2.
-QByteArray frame(int protocol, QString const &text)
-{
-    QByteArray bytes;
-    for (QString const &token : text.split(' ')) {
-        bool ok = true;
-        bytes.append(token == "ck" ? '\0' : char(token.toInt(&ok, 16)));
-        Q_ASSERT(ok);
-    }
-    const int size = bytes.size();
-    auto sum = [&bytes](int first, int last) {
-        unsigned total = 0;
-        for (int i = first; i <= last; ++i)
-            total += quint8(bytes.at(i));
-        return total;
-    };
-    if (quint8(bytes.at(0)) == 0x2E) {
-        bytes[size - 1] = char(0xFF ^ (sum(1, size - 2) & 0xFF));
-    } else if (protocol == 67) {
-        const unsigned total = sum(1, size - 3) & 0xFFFF;
-        bytes[size - 2] = char(total >> 8);
-        bytes[size - 1] = char(total & 0xFF);
-    } else {
-        bytes[size - 1] = char(sum(1, size - 2) & 0xFF);
-    }
-    return bytes;
-}
-
-QList<QByteArray> frames(int protocol, QStringList const &texts)
-{
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list.append(frame(protocol, text));
-    return list;
-}
-
-// The pattern once for each value, "%1" standing for it in two hex digits.
-QStringList series(QString const &pattern, int first, int last)
-{
-    QStringList texts;
-    for (int value = first; value <= last; ++value)
-        texts.append(pattern.arg(QString::number(value, 16).toUpper().rightJustified(2, QChar('0'))));
-    return texts;
-}
-
 const QStringList vehicleParts = series("2E 90 02 7D %1 ck", 0, 0x10);
-
-QString hex(QList<QByteArray> const &list)
-{
-    QStringList texts;
-    for (QByteArray const &bytes : list)
-        texts.append(QString(bytes.toHex(' ').toUpper()));
-    return texts.join(" | ");
-}
 
 } // namespace
 
@@ -220,7 +169,7 @@ private slots:
 
         open(id);
         show(index);
-        QCOMPARE(hex(sent()), hex(frames(id, expected)));
+        QCOMPARE(hex(sent()), hexOf(expected, id));
     }
 
     void samePageTwice()
@@ -277,13 +226,13 @@ private slots:
         QVERIFY(timer->isActive());
         QCOMPARE(timer->interval(), interval);
         countdown();
-        QCOMPARE(hex(sent()), hex(frames(id, {"2E 90 01 25 ck"})));
+        QCOMPARE(hex(sent()), hexOf({"2E 90 01 25 ck"}, id));
 
         show(2);
         QVERIFY(timer->isActive());
         countdown();
-        QCOMPARE(hex(sent()), hex(frames(id, {"2E 90 01 14 ck", "2E 90 01 16 ck", "2E 90 02 41 02 ck",
-                                              "2E 90 02 41 03 ck"})));
+        QCOMPARE(hex(sent()), hexOf({"2E 90 01 14 ck", "2E 90 01 16 ck", "2E 90 02 41 02 ck",
+                                              "2E 90 02 41 03 ck"}, id));
 
         // Page 1 stops it; a tick there asks nothing and doesn't stop it.
         show(1);
@@ -310,7 +259,7 @@ private slots:
         QCOMPARE(timer->interval(), 1000);
         QVERIFY(sent().isEmpty());
         countdown();
-        QCOMPARE(hex(sent()), hex(frames(31, {"2E 90 02 33 02 ck", "2E 90 02 33 01 ck"})));
+        QCOMPARE(hex(sent()), hexOf({"2E 90 02 33 02 ck", "2E 90 02 33 01 ck"}, 31));
 
         show(0);
         QVERIFY(!timer->isActive());
@@ -345,7 +294,7 @@ private slots:
         QVERIFY(timer->isActive());
         QCOMPARE(timer->interval(), 1000);
         countdown();
-        QCOMPARE(hex(sent()), hex(frames(id, tick)));
+        QCOMPARE(hex(sent()), hexOf(tick, id));
 
         const QList<bool> states = timerStateAtEachFrame(3);
         QCOMPARE(states.size(), 17);
@@ -366,17 +315,17 @@ private slots:
         QVERIFY(timer->isActive());
         QCOMPARE(timer->interval(), 1500);
         countdown();
-        QCOMPARE(hex(sent()), hex(frames(60, {"2E 90 02 29 00 ck"})));
+        QCOMPARE(hex(sent()), hexOf({"2E 90 02 29 00 ck"}, 60));
 
         // Page 1 stops the timer before its request goes out.
         QCOMPARE(timerStateAtEachFrame(1), QList<bool>() << false);
-        QCOMPARE(hex(sent()), hex(frames(60, {"2E 90 02 31 00 ck"})));
+        QCOMPARE(hex(sent()), hexOf({"2E 90 02 31 00 ck"}, 60));
         QVERIFY(!timer->isActive());
 
         show(2);
         QVERIFY(timer->isActive());
         countdown();
-        QCOMPARE(hex(sent()), hex(frames(60, {"2E 90 02 36 00 ck"})));
+        QCOMPARE(hex(sent()), hexOf({"2E 90 02 36 00 ck"}, 60));
 
         show(3);
         QVERIFY(!timer->isActive());
@@ -473,7 +422,7 @@ private slots:
         QList<QByteArray> received;
         for (QList<QVariant> const &arguments : spy)
             received.append(arguments.at(0).toByteArray());
-        QCOMPARE(hex(received), hex(frames(28, expected)));
+        QCOMPARE(hex(received), hexOf(expected, 28));
         QVERIFY(sent().isEmpty());
     }
 

@@ -4,60 +4,30 @@
 // after the change, the position bar, the refresh that touches only what
 // changed, and the list dialog with the back key.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
-#include "appframework.h"
-#include "basebar.h"
 #include "carbodydata.h"
 #include "cdbutton.h"
-#include "exview.h"
 #include "listdialog.h"
-#include "listview.h"
 #include "sliderviewimte.h"
 #include "zorvrollingtext.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPointer>
 
 using namespace PageTest;
 
 namespace {
 
 const int Protocol = 124;
-const int Back = 0x110002A;
+using PageTest::Keys::Back;
 
 enum PageIndex { Basic, Settings, Disc };
 
 DataBuffer buffer()
 {
     return HostSim::buffer(Protocol);
-}
-
-// A head unit key, pressed and released on a widget; what it ignores goes on
-// to its parents.
-void pressKey(QWidget *widget, int code)
-{
-    QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier);
-    QApplication::sendEvent(widget, &press);
-    QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier);
-    QApplication::sendEvent(widget, &release);
-}
-
-QString sent()
-{
-    const QString text = hex(HostSim::sentFrames());
-    HostSim::clearSentFrames();
-    return text;
-}
-
-QList<DateInfo> discEntries(int count)
-{
-    QList<DateInfo> entries;
-    for (int i = 1; i <= count; ++i)
-        entries << DateInfo(quint16(i), QString("Track %1").arg(i));
-    return entries;
 }
 
 // The disc page on a window, built, with its widgets by what they show.
@@ -131,7 +101,7 @@ private slots:
         QCOMPARE(stack->getDatalist(),
                  (QList<QString>{"Basic information", "Vehicle settings information", "CD/DVD status"}));
         stack->showIndex(index);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected)));
+        QCOMPARE(sent(), hexOf(expected));
     }
 
     // Texts from the buffer, three states from the body record (a state the
@@ -217,7 +187,7 @@ private slots:
         p.show();
         QCOMPARE(p.index(id).data(IdRole).toInt(), id);
         p.tap(id, down ? LeftArrow : RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame(expected)}));
+        QCOMPARE(sent(), hex({frame(expected)}));
         QCOMPARE(p.value(id), value);
     }
 
@@ -287,8 +257,8 @@ private slots:
         // A blocked button sends nothing; the always usable ones do.
         p.tapButton("Play");
         p.tapButton("AUX");
-        QCOMPARE(sent(), hex(frames(mode == 1 || mode == 2 ? QStringList{"2E C7 02 02 00 ck", "2E C7 02 A1 00 ck"}
-                                                           : QStringList{"2E C7 02 A1 00 ck"})));
+        QCOMPARE(takeSent(), hexOf(mode == 1 || mode == 2 ? QStringList{"2E C7 02 02 00 ck", "2E C7 02 A1 00 ck"}
+                                                           : QStringList{"2E C7 02 A1 00 ck"}));
     }
 
     // Every plain button sends its command, 2E C7 02 code 00.
@@ -313,7 +283,7 @@ private slots:
         buffer().setByte(36, quint8(mode));
         DiscPage p;
         p.tapButton(text);
-        QCOMPARE(sent(), hex({frame(QString("2E C7 02 %1 00 ck").arg(code, 2, 16, QChar('0')))}));
+        QCOMPARE(takeSent(), hex({frame(QString("2E C7 02 %1 00 ck").arg(code, 2, 16, QChar('0')))}));
     }
 
     // The toggles show the buffer's state and send the command for the
@@ -355,7 +325,7 @@ private slots:
         QCOMPARE(button->text(), text);
         QCOMPARE(button->textScale(), 0.3);
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
-        QCOMPARE(sent(), expected.isEmpty() ? QString() : hex({frame(expected)}));
+        QCOMPARE(takeSent(), expected.isEmpty() ? QString() : hex({frame(expected)}));
 
         // The car hasn't answered yet: the buffer says otherwise, the text
         // still shows the old state, the tap follows the buffer.
@@ -365,7 +335,7 @@ private slots:
         const QString before = button->text();
         QTest::mouseClick(button, Qt::LeftButton, {}, button->rect().center());
         QCOMPARE(button->text(), before);
-        QVERIFY(sent() != hex({frame(expected)}));
+        QVERIFY(takeSent() != hex({frame(expected)}));
     }
 
     // The bar follows the finger in the second source only; the release
@@ -383,7 +353,7 @@ private slots:
         QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(width - 1, bar->height() / 2));
         QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(margin, bar->height() / 2));
         QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(margin, bar->height() / 2));
-        QCOMPARE(sent(), hex({frame("2E C7 02 2F 64 00 ck"), frame("2E C7 02 2F 00 00 ck")}));
+        QCOMPARE(takeSent(), hex({frame("2E C7 02 2F 64 00 ck"), frame("2E C7 02 2F 00 00 ck")}));
         // The refresh puts the car's position back only when it changes.
         p.refresh();
         QCOMPARE(bar->getValue(), 0);
@@ -395,7 +365,7 @@ private slots:
         p.refresh();
         QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(margin, bar->height() / 2));
         QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(margin, bar->height() / 2));
-        QCOMPARE(sent(), QString());
+        QCOMPARE(takeSent(), QString());
         QCOMPARE(bar->getValue(), 31);
     }
 
@@ -467,7 +437,7 @@ private slots:
         auto *download = dialog->findChild<CDButton *>();
         QVERIFY(download->isUsable());
         QTest::mouseClick(download, Qt::LeftButton, {}, download->rect().center());
-        QCOMPARE(sent(), hex({frame("2E C7 05 11 00 0F 00 14 ck")}));
+        QCOMPARE(takeSent(), hex({frame("2E C7 05 11 00 0F 00 14 ck")}));
 
         data.setEntries(68, discEntries(20));
         HostSim::notifyDataChanged();
@@ -496,16 +466,9 @@ private slots:
     {
         buffer().setByte(36, 1);
         buffer().setEntries(68, discEntries(3));
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        auto *stack = view->findChild<CarExViewBase *>();
-        BaseBar *bar = view->findChild<BaseBar *>();
-        const QModelIndex title = list->model()->index(Disc, 0);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        auto *stack = v.open(Disc);
         QVERIFY(stack->isVisible());
         QWidget *page = stack->currentWidget();
 
@@ -529,27 +492,27 @@ private slots:
         QTRY_VERIFY(page->hasFocus());
         pressKey(QApplication::focusWidget(), Back);
         QVERIFY(!stack->isVisible());
-        QVERIFY(list->isVisible());
+        QVERIFY(v.list->isVisible());
 
         // The bar's back: the page closes its dialog first.
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
+        v.open(Disc);
         dialog = openDialog();
         QVERIFY(dialog && dialog->isVisible());
-        HostSim::pressBarButton(bar, "back");
+        v.back();
         QVERIFY(!dialog || !dialog->isVisible());
         QVERIFY(stack->isVisible());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!dialog);
-        HostSim::pressBarButton(bar, "back");
+        v.back();
         QVERIFY(!stack->isVisible());
 
         // The view goes while a closed dialog waits for its deletion: the
         // page goes with it and nothing keeps the focus on a dead widget.
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
+        v.open(Disc);
         dialog = openDialog();
-        HostSim::pressBarButton(bar, "back");
+        v.back();
         QVERIFY(dialog);
-        delete view;
+        delete v.view;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(!dialog);
         QWidget *focus = QApplication::focusWidget();

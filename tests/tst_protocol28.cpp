@@ -6,13 +6,6 @@
 #include "tst_protocol28.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
-#include "tirepressure.h"
-
-#include <QPointer>
 
 #include <cstring>
 
@@ -28,14 +21,6 @@ QStringList series(int group, std::initializer_list<int> qualifiers)
     for (int q : qualifiers)
         texts << QString("2E 90 02 %1 %2 ck").arg(group, 2, 16, QChar('0')).arg(q, 2, 16, QChar('0'));
     return texts;
-}
-
-QList<QByteArray> frames(QStringList const &texts)
-{
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << frame(text);
-    return list;
 }
 
 // Fifteen 16-bit values in host order, as the energy history holds them.
@@ -111,7 +96,7 @@ private slots:
         QList<QByteArray> received;
         for (QList<QVariant> const &arguments : spy)
             received << arguments.at(0).toByteArray();
-        QCOMPARE(hex(received), hex(frames(expected)));
+        QCOMPARE(hex(received), hexOf(expected));
         QVERIFY(HostSim::sentFrames().isEmpty());
     }
 
@@ -185,7 +170,7 @@ private slots:
                      << QString("2E A8 02 %1 %2 ck").arg(row, 2, 16, QChar('0'))
                             .arg(qMin(highest[row], bytes[row] + 1), 2, 16, QChar('0'));
         }
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected)));
+        QCOMPARE(sent(), hexOf(expected));
         QVERIFY(p.signalled.isEmpty());
         for (int row = 0; row < 7; ++row)
             QCOMPARE(p.shown(row), shown.at(row));
@@ -220,7 +205,7 @@ private slots:
 
         // Read-only rows; the page's step keeps the bare setting frame.
         p.step(3, false);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C6 02 00 00 ck")}));
     }
 
     void energyDisplay()
@@ -261,7 +246,7 @@ private slots:
         QCOMPARE(p.shown(11), QString("9.9kWh"));
 
         p.step(0, true);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C6 02 00 00 ck")}));
     }
 
     // History arrays shorter than 30 bytes leave their rows empty until a
@@ -359,11 +344,11 @@ private slots:
         p.tap(4, RightArrow);
         p.tap(4, LeftArrow);
         p.tap(1, RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames({"2E C6 02 8C 01 ck", "2E C6 02 8C 00 ck"})));
+        QCOMPARE(sent(), hexOf({"2E C6 02 8C 01 ck", "2E C6 02 8C 00 ck"}));
         QCOMPARE(p.shown(4), QString("OFF"));
         HostSim::clearSentFrames();
         p.step(0, false);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E C6 02 00 00 ck")}));
 
         QCOMPARE(p.changedRows([&] {
             data.setText(352, QStringLiteral("18 000 km"));
@@ -451,7 +436,7 @@ private slots:
         p.show();
         const QString before = p.shown(row);
         p.tap(row, down ? LeftArrow : RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame(expected)}));
+        QCOMPARE(sent(), hex({frame(expected)}));
         QVERIFY(p.signalled.isEmpty());
         QCOMPARE(p.shown(row), before);
     }
@@ -508,10 +493,10 @@ private slots:
         p.tap(3, RightArrow);
         p.tap(4, RightArrow);
         p.tap(4, RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames({"2E A5 0A 01 08 1E E3 7C 16 00 06 00 50 ck",
+        QCOMPARE(sent(), hexOf({"2E A5 0A 01 08 1E E3 7C 16 00 06 00 50 ck",
                                                           "2E A5 0A 01 08 1E E3 7C 16 00 06 00 50 ck",
                                                           "2E A5 0A 01 08 23 E3 7C 16 00 06 00 50 ck",
-                                                          "2E A5 0A 01 08 28 E3 7C 16 00 06 00 50 ck"})));
+                                                          "2E A5 0A 01 08 28 E3 7C 16 00 06 00 50 ck"}));
         // The next refresh shows what the buffer holds now.
         QCOMPARE(p.changedRows([] {}), (QList<int>{3, 4}));
         QCOMPARE(p.shown(4), QString("40"));
@@ -521,63 +506,30 @@ private slots:
     // rows, and follows the car's data while it is in front.
     void extendedViewShowsLivePages()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
-        struct Case
-        {
-            int rows;
-            int row;
-            std::function<void()> change;
-            QString shown;
-        };
-        const QList<Case> cases = {
-            {18, 0, [] { buffer().setByte(36, 1); }, "open"},
-            {7, 1, [] { buffer().setByte(106, 12); }, "3"},
-            {116, 114, [] { buffer().setByte(230, 0x2B); }, "Ukraine"},
-            {21, 0, [] { buffer().setText(236, "642 km"); }, "642 km"},
-            {40, 5, [] { buffer().setByte(330, 76); }, "76"},
-            {10, 0, [] { HostSim::airData()->tirePressure.frontLeftPressure = "2.4 bar"; }, "2.4 bar"},
-            {5, 4, [] { buffer().setByte(364, 1); }, "ON"},
-            {61, 60, [] { buffer().setByte(428, 1); }, "Bullet frame"},
-        };
-        for (int index = 0; index < cases.size(); ++index) {
-            const QModelIndex title = list->model()->index(index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
-            QVERIFY(stack->isVisible());
-            QCOMPARE(stack->currentIndex(), index);
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), cases.at(index).rows);
-            cases.at(index).change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(cases.at(index).row, 0).data(DisplayValueRole).toString(),
-                     cases.at(index).shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
-        }
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        v.expectLivePages({
+            {Parking, 18, 0, [] { buffer().setByte(36, 1); }, "open"},
+            {Amplifier, 7, 1, [] { buffer().setByte(106, 12); }, "3"},
+            {Settings, 116, 114, [] { buffer().setByte(230, 0x2B); }, "Ukraine"},
+            {Driving, 21, 0, [] { buffer().setText(236, "642 km"); }, "642 km"},
+            {Energy, 40, 5, [] { buffer().setByte(330, 76); }, "76"},
+            {Tyres, 10, 0, [] { HostSim::airData()->tirePressure.frontLeftPressure = "2.4 bar"; }, "2.4 bar"},
+            {Condition, 5, 4, [] { buffer().setByte(364, 1); }, "ON"},
+            {Electric, 61, 60, [] { buffer().setByte(428, 1); }, "Bullet frame"},
+        });
+        if (QTest::currentTestFailed())
+            return;
 
         // The tyre row opens the panel, whose reset sends its frame.
-        const QModelIndex tyres = list->model()->index(Tyres, 0);
-        list->scrollTo(tyres);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(tyres).center());
+        v.open(Tyres);
         // The requests of the pages opened so far go out first, this page's last.
         QTRY_COMPARE(HostSim::sentFrames().value(HostSim::sentFrames().size() - 1), frame("2E 90 02 68 00 ck"));
-        HostSim::clearSentFrames();
-        tap(view->findChild<CarExViewBase *>()->currentWidget()->findChild<TableView *>(), 8, Middle);
-        auto *panel = view->findChild<TirePressure *>("tirePressure");
+        TirePressure *panel = v.openTyrePanel(8);
         QVERIFY(panel && panel->isVisible());
-        auto *reset = panel->findChild<QWidget *>("resetButton");
-        QTest::mouseClick(reset, Qt::LeftButton, {}, reset->rect().center());
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 22 01 ck")}));
+        v.tapReset(panel);
+        QCOMPARE(sent(), hex({frame("2E C6 02 22 01 ck")}));
         QVERIFY(!panel->isVisible());
-        delete view;
     }
 };
 

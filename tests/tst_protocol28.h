@@ -1,10 +1,10 @@
 // What the tests of protocol 28's pages share: the protocol's buffer, its
-// common setting frame, and its pages on a window (pagetests.h).
+// common setting frame, and its pages on a window and in the extended view (exviewtests.h).
 
 #ifndef TST_PROTOCOL28_H
 #define TST_PROTOCOL28_H
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 namespace P28 {
 
@@ -15,8 +15,12 @@ inline DataBuffer buffer()
     return HostSim::buffer(Protocol);
 }
 
+using PageTest::ExtendedView;
 using PageTest::frame;
+using PageTest::frames;
 using PageTest::hex;
+using PageTest::hexOf;
+using PageTest::sent;
 using PageTest::Zone;
 using PageTest::LeftArrow;
 using PageTest::RightArrow;
@@ -30,11 +34,7 @@ inline QByteArray setting(int sub, int value)
 }
 
 // One page of protocol 28's stack.
-class Page : public PageTest::Page
-{
-public:
-    explicit Page(int index) : PageTest::Page(Protocol, index) {}
-};
+typedef PageTest::FamilyPage<Protocol> Page;
 
 } // namespace P28
 

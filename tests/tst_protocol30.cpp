@@ -4,16 +4,11 @@
 // keeps in the buffer itself, the saved model, and the family live in the
 // extended view on each of its ids.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
 #include "datasavecontrol.h"
-#include "listview.h"
 
-#include <QPointer>
 #include <QTemporaryDir>
 
 using namespace PageTest;
@@ -29,33 +24,10 @@ DataBuffer buffer(int protocol = Protocol)
     return HostSim::buffer(protocol);
 }
 
-QString hexByte(int value)
-{
-    return QString("%1").arg(value & 0xFF, 2, 16, QChar('0'));
-}
-
 // 2E command 02 sub value ck.
 QString setting(int command, int sub, int value)
 {
-    return QString("2E %1 02 %2 %3 ck").arg(hexByte(command), hexByte(sub), hexByte(value));
-}
-
-QStringList shownTexts(Page const &p)
-{
-    QStringList texts;
-    for (int row = 0; row < p.rows(); ++row)
-        texts << p.shown(row);
-    return texts;
-}
-
-QList<int> adjustableRows(Page const &p)
-{
-    QList<int> rows;
-    for (int row = 0; row < p.rows(); ++row) {
-        if (p.adjustable(row))
-            rows << row;
-    }
-    return rows;
+    return QString("2E %1 02 %2 %3 ck").arg(byteText(command), byteText(sub), byteText(value));
 }
 
 // Six preset stations, low byte first.
@@ -110,10 +82,10 @@ private slots:
             QCOMPARE(p.title(4), QString("Spare tire"));
             QCOMPARE(p.title(5), QString("Instantaneous power consumption"));
             QCOMPARE(p.title(11), QString("TPMS unit"));
-            QCOMPARE(shownTexts(p), (QStringList{"2.4 bar", "2.5 bar", "2.3 bar", "2.2 bar", "4.2 bar", "5.1 kW",
+            QCOMPARE(p.shownTexts(), (QStringList{"2.4 bar", "2.5 bar", "2.3 bar", "2.2 bar", "4.2 bar", "5.1 kW",
                                                  "12 km", "Have TPMS equipment", "normal status", "show",
                                                  "Show a car", "KPA"}));
-            QCOMPARE(adjustableRows(p), QList<int>{});
+            QCOMPARE(p.adjustableRows(), QList<int>{});
             QCOMPARE(p.changedRows([] {}), QList<int>{});
             QCOMPARE(p.changedRows([&] {
                 tyres.sparePressure = "3.9 bar";
@@ -125,7 +97,7 @@ private slots:
             QCOMPARE(p.shown(11), QString());
 
             p.step(8, false);
-            QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E C6 02 00 00 ck")}));
+            QCOMPARE(sent(), hex({frame("2E C6 02 00 00 ck")}));
         }
         // Without the climate record the pressures are empty.
         HostSim::setRecordAvailable(HostSim::AirRecord, false);
@@ -143,8 +115,8 @@ private slots:
         QCOMPARE(p.title(0), QString("Hybrid electric vehicle"));
         QCOMPARE(p.title(6), QString("Motor drive battery"));
         QCOMPARE(p.title(7), QString("Battery power"));
-        QCOMPARE(shownTexts(p), (QStringList{"Have", "without", "Have", "Have", "without", "Have", "without", "11"}));
-        QCOMPARE(adjustableRows(p), QList<int>{});
+        QCOMPARE(p.shownTexts(), (QStringList{"Have", "without", "Have", "Have", "without", "Have", "without", "11"}));
+        QCOMPARE(p.adjustableRows(), QList<int>{});
         QCOMPARE(p.changedRows([&] {
             data.setByte(188, 15);
             data.setByte(189, 1);
@@ -183,7 +155,7 @@ private slots:
             QCOMPARE(p.title(row), titles.at(row));
             QCOMPARE(p.shown(row), shown.at(row));
         }
-        QCOMPARE(adjustableRows(p), (QList<int>{0, 1, 2, 5, 6, 11, 12, 13, 15, 16, 17, 19, 20, 21}));
+        QCOMPARE(p.adjustableRows(), (QList<int>{0, 1, 2, 5, 6, 11, 12, 13, 15, 16, 17, 19, 20, 21}));
         QCOMPARE(p.index(11).data(OptionsRole).toList().size(), 22);
         const QStringList models = p.index(21).data(OptionsRole).toStringList();
         QCOMPARE(models.size(), 27);
@@ -266,7 +238,7 @@ private slots:
         Page p(Protocol, Settings);
         p.show();
         p.tap(row, down ? LeftArrow : RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame(expected)}));
+        QCOMPARE(sent(), hex({frame(expected)}));
         QVERIFY(p.signalled.isEmpty());
         QCOMPARE(p.shown(row), shown);
         const int stepped = p.value(row);
@@ -351,7 +323,7 @@ private slots:
             QVERIFY(HostSim::sentFrames().isEmpty());
             QCOMPARE(p.shown(21), QString("null"));
         } else {
-            QCOMPARE(hex(HostSim::sentFrames()), hex({frame(QString("2E E2 01 %1 ck").arg(hexByte(code)))}));
+            QCOMPARE(sent(), hex({frame(QString("2E E2 01 %1 ck").arg(byteText(code)))}));
         }
         QCOMPARE(p.changedRows([] {}), QList<int>{});
     }
@@ -368,13 +340,13 @@ private slots:
         p.tap(21, Middle);
         QVERIFY(HostSim::sentFrames().isEmpty());
         p.tap(18, Middle);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E 83 02 20 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E 83 02 20 00 ck")}));
         QCOMPARE(p.shown(18), QString("exit"));
 
         HostSim::clearSentFrames();
         p.step(3, false);
         p.step(14, false);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames({"2E 83 02 00 00 ck", "2E 83 02 00 00 ck"})));
+        QCOMPARE(sent(), hexOf({"2E 83 02 00 00 ck", "2E 83 02 00 00 ck"}));
         QCOMPARE(p.shown(3), QString("KM/L"));
         p.step(18, false);
         QCOMPARE(p.shown(18), QString("exit"));
@@ -391,8 +363,8 @@ private slots:
                                     "MID indicator", "ASL indicator", "Current volume", "Loopback sound", "Beep"};
         for (int row = 0; row < 9; ++row)
             QCOMPARE(p.title(row), titles.at(row));
-        QCOMPARE(shownTexts(p), (QStringList{"0", "-4", "0", "5", "-5", "ASL ON", "40", "Have", "without"}));
-        QCOMPARE(adjustableRows(p), (QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8}));
+        QCOMPARE(p.shownTexts(), (QStringList{"0", "-4", "0", "5", "-5", "ASL ON", "40", "Have", "without"}));
+        QCOMPARE(p.adjustableRows(), (QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8}));
 
         QCOMPARE(p.changedRows([] {}), QList<int>{});
         QCOMPARE(p.changedRows([] {
@@ -452,7 +424,7 @@ private slots:
         p.show();
         const QString before = p.shown(row);
         p.tap(row, down ? LeftArrow : RightArrow);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame(expected)}));
+        QCOMPARE(sent(), hex({frame(expected)}));
         QCOMPARE(p.shown(row), before);
         QCOMPARE(int(buffer().byte(161 + row)), start);
     }
@@ -476,9 +448,9 @@ private slots:
         QCOMPARE(p.title(10), QString("Driver seat door opening linkage  unlock"));
         QCOMPARE(p.title(15), QString("Air conditioning and A UTO key linkage"));
         QCOMPARE(p.title(18), QString("Auto relock timer"));
-        QCOMPARE(shownTexts(p), (QStringList{"ON", "1", "7.5s", "30s", "ON", "ON", "ON", "ON", "1", "ON", "ON", "ON",
+        QCOMPARE(p.shownTexts(), (QStringList{"ON", "1", "7.5s", "30s", "ON", "ON", "ON", "ON", "1", "ON", "ON", "ON",
                                              "ON", "ON", "2st gear", "ON", "ON", "Show static trajectory", "30S"}));
-        QCOMPARE(adjustableRows(p).size(), 19);
+        QCOMPARE(p.adjustableRows().size(), 19);
 
         p.show();
         QStringList expected;
@@ -487,7 +459,7 @@ private slots:
             p.tap(row, RightArrow);
             expected << setting(0x83, rows[row].sub, 0) << setting(0x83, rows[row].sub, qMin(2, rows[row].high));
         }
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected)));
+        QCOMPARE(sent(), hexOf(expected));
         QCOMPARE(p.shown(0), QString("ON"));
 
         QCOMPARE(p.changedRows([] {}), QList<int>{});
@@ -526,16 +498,16 @@ private slots:
             QCOMPARE(p.title(0), QString("Unit of measure"));
             QCOMPARE(p.title(1), QString("Current trip fuel consumption"));
             QCOMPARE(p.title(6), QString("Stroke 5 fuel consumption"));
-            QCOMPARE(shownTexts(p), (QStringList{"L/100KM", "6.8 L/100km", "5.0 L/100km", "6.0 L/100km",
+            QCOMPARE(p.shownTexts(), (QStringList{"L/100KM", "6.8 L/100km", "5.0 L/100km", "6.0 L/100km",
                                                  "7.0 L/100km", "8.0 L/100km", "9.0 L/100km"}));
-            QCOMPARE(adjustableRows(p), QList<int>{});
+            QCOMPARE(p.adjustableRows(), QList<int>{});
             QCOMPARE(p.changedRows([&] {
                 data.setByte(24, 0);
                 data.setText(40, "");
             }), (QList<int>{0, 4}));
             QCOMPARE(p.shown(0), QString("MPG"));
             p.step(0, false);
-            QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E A0 02 00 00 ck")}));
+            QCOMPARE(sent(), hex({frame("2E A0 02 00 00 ck")}));
         }
         HostSim::clearSentFrames();
         {
@@ -546,9 +518,9 @@ private slots:
             QCOMPARE(p.rows(), 8);
             for (int row = 0; row < 8; ++row)
                 QCOMPARE(p.title(row), titles.at(row));
-            QCOMPARE(shownTexts(p), (QStringList{"54 km/h", "01:12", "412 km", "KM", "KM/L", "15.2", "Door closed",
+            QCOMPARE(p.shownTexts(), (QStringList{"54 km/h", "01:12", "412 km", "KM", "KM/L", "15.2", "Door closed",
                                                  "Outside"}));
-            QCOMPARE(adjustableRows(p), QList<int>{});
+            QCOMPARE(p.adjustableRows(), QList<int>{});
             QCOMPARE(p.changedRows([&] {
                 data.setText(4, "01:13");
                 data.setByte(12, 0);
@@ -557,7 +529,7 @@ private slots:
             QCOMPARE(p.shown(3), QString("Don't show"));
             QCOMPARE(p.shown(7), QString("Inside"));
             p.step(6, true);
-            QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E A0 02 00 00 ck")}));
+            QCOMPARE(sent(), hex({frame("2E A0 02 00 00 ck")}));
         }
         HostSim::clearSentFrames();
         Page p(Protocol, LastMinutes);
@@ -575,7 +547,7 @@ private slots:
         }), (QList<int>{0, 15}));
         QCOMPARE(p.shown(15), QString("12 MPG"));
         p.step(15, false);
-        QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E A0 02 00 00 ck")}));
+        QCOMPARE(sent(), hex({frame("2E A0 02 00 00 ck")}));
     }
 
     void multimediaRows()
@@ -608,11 +580,11 @@ private slots:
         QCOMPARE(p.title(24), QString("Currently selected disc number1"));
         QCOMPARE(p.title(25), QString("Currently selected disc number1"));
         QCOMPARE(p.title(30), QString("current time"));
-        QCOMPARE(shownTexts(p), (QStringList{"without", "without", "Have", "without", "Have", "Have",
+        QCOMPARE(p.shownTexts(), (QStringList{"without", "without", "Have", "without", "Have", "Have",
             "Play status", "3", "USB", "Wait status", "ON", "Unlocked", "FM2", "stereo", "Non-scanning state", "7",
             "98.1", "FM1", "87.5MHz", "107.9MHz", "90.1MHz", "88MHz", "100MHz", "94.6MHz", "3", "Dish loop",
             "Shuffle play", "1234", "300", "61:05", "02:17"}));
-        QCOMPARE(adjustableRows(p), (QList<int>{10, 11}));
+        QCOMPARE(p.adjustableRows(), (QList<int>{10, 11}));
 
         QCOMPARE(p.changedRows([] {}), QList<int>{});
         // AM stations are in KHz; the band changes every station's text.
@@ -716,8 +688,8 @@ private slots:
         p.tap(11, RightArrow);
         p.tap(6, RightArrow);
         p.tap(18, Middle);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames({setting(0x84, 0x60, 1), setting(0x84, 0x60, 0),
-                                                          setting(0x84, 0x61, 0), setting(0x84, 0x61, 1)})));
+        QCOMPARE(sent(), hexOf({setting(0x84, 0x60, 1), setting(0x84, 0x60, 0),
+                                                          setting(0x84, 0x61, 0), setting(0x84, 0x61, 1)}));
         QCOMPARE(p.shown(10), QString("OFF"));
         QCOMPARE(p.shown(11), QString("Lock up"));
         QCOMPARE(p.changedRows([] { buffer().setByte(206, 1); }), QList<int>{10});
@@ -754,7 +726,7 @@ private slots:
             p.tap(21, RightArrow);
             QCOMPARE(int(buffer(id).byte(186)), 10);
             QCOMPARE(int(buffer(30).byte(186)), 5);
-            QCOMPARE(hex(HostSim::sentFrames()), hex({frame("2E E2 01 0B ck")}));
+            QCOMPARE(sent(), hex({frame("2E E2 01 0B ck")}));
             QCOMPARE(HostSim::savedUserData("CanbusCAR").toInt(), 10);
             QCOMPARE(p.changedRows([&] { buffer(30).setByte(170, 1); }), QList<int>{});
             QCOMPARE(p.changedRows([&] { buffer(id).setByte(170, 1); }), QList<int>{0});
@@ -777,13 +749,8 @@ private slots:
     {
         QFETCH(int, id);
         HostSim::setProtocolId(id);
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
+        ExtendedView v;
+        QVERIFY(v.exposed());
         struct Case
         {
             int rows;
@@ -804,25 +771,18 @@ private slots:
             {31, {"2E 90 02 61 00 ck", "2E 90 02 66 00 ck"}, 10, 206, "ON"},
         };
         for (int index = 0; index < cases.size(); ++index) {
+            Case const &c = cases.at(index);
             HostSim::clearSentFrames();
-            const QModelIndex title = list->model()->index(index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
+            CarExViewBase *stack = v.open(index);
             QVERIFY(stack->isVisible());
             QCOMPARE(stack->currentIndex(), index);
-            QCOMPARE(hex(HostSim::sentFrames()), hex(frames(cases.at(index).requests)));
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), cases.at(index).rows);
-            buffer(id).setByte(cases.at(index).offset, 1);
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(cases.at(index).row, 0).data(DisplayValueRole).toString(),
-                     cases.at(index).shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
+            QCOMPARE(sent(), hexOf(c.requests));
+            QVERIFY(v.table());
+            QCOMPARE(v.rows(), c.rows);
+            QCOMPARE(v.shownAfter([&] { buffer(id).setByte(c.offset, 1); }, c.row), c.shown);
+            v.back();
+            QVERIFY(v.list->isVisible());
         }
-        delete view;
     }
 
 private:

@@ -18,7 +18,9 @@
 
 using PageTest::frame;
 using PageTest::hex;
+using PageTest::hexOf;
 using PageTest::Page;
+using PageTest::sent;
 
 namespace {
 
@@ -31,37 +33,15 @@ DataBuffer buffer()
     return HostSim::buffer(Protocol);
 }
 
-QString sent()
-{
-    return hex(HostSim::sentFrames());
-}
-
-QString expected(QStringList const &texts)
-{
-    QList<QByteArray> frames;
-    for (QString const &text : texts)
-        frames << frame(text);
-    return hex(frames);
-}
-
 // A page of the family's own widgets, in front on a shown window.
-class KeyPage
+class KeyPage : public Page
 {
 public:
-    explicit KeyPage(int index)
+    explicit KeyPage(int index) : Page(Protocol, index)
     {
-        window.resize(1024, 470);
-        stack = createPageStack(Protocol, &window);
-        stack->setGeometry(window.rect());
-        stack->setCurrentIndex(index);
-        page()->createView();
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            qWarning("window not exposed");
+        show();
         HostSim::clearSentFrames();
     }
-
-    CarInfoItem *page() const { return qobject_cast<CarInfoItem *>(stack->currentWidget()); }
 
     CustomImageButton *key(QString const &text) const
     {
@@ -98,9 +78,6 @@ public:
         grid->getItemPosition(index, &row, &column, &rowSpan, &columnSpan);
         return {row, column};
     }
-
-    QWidget window;
-    CarExViewBase *stack = nullptr;
 };
 
 } // namespace
@@ -252,7 +229,7 @@ private slots:
         p.show();
         QCOMPARE(p.value(row), start);
         p.tap(row, down ? PageTest::LeftArrow : PageTest::RightArrow);
-        QCOMPARE(sent(), expected({frame}));
+        QCOMPARE(sent(), hexOf({frame}));
         // A setting waits for the car's answer.
         QCOMPARE(p.value(row), start);
     }
@@ -289,12 +266,12 @@ private slots:
         Page p(Protocol, Parking);
         p.show();
         p.tap(8, PageTest::RightArrow);
-        QCOMPARE(sent(), expected({"2E 87 01 02 ck"}));
+        QCOMPARE(sent(), hexOf({"2E 87 01 02 ck"}));
         QCOMPARE(p.shown(8), QString("German"));
 
         HostSim::clearSentFrames();
         p.tap(25, PageTest::RightArrow);
-        QCOMPARE(sent(), expected({"2E 83 02 81 01 ck"}));
+        QCOMPARE(sent(), hexOf({"2E 83 02 81 01 ck"}));
         QCOMPARE(int(buffer().byte(132)), 1);
         QCOMPARE(DataSaveControl::readSettingData("SteeringWheelButtonType", QVariant(), QString()).toInt(), 1);
         QCOMPARE(p.shown(25), QString("15 GL8 2.4L Deluxe Edition"));
@@ -302,7 +279,7 @@ private slots:
         HostSim::clearSentFrames();
         p.tap(25, PageTest::LeftArrow);
         p.tap(25, PageTest::LeftArrow);
-        QCOMPARE(sent(), expected({"2E 83 02 81 00 ck", "2E 83 02 81 00 ck"}));
+        QCOMPARE(sent(), hexOf({"2E 83 02 81 00 ck", "2E 83 02 81 00 ck"}));
         QCOMPARE(DataSaveControl::readSettingData("SteeringWheelButtonType", QVariant(), QString()).toInt(), 0);
         QCOMPARE(p.value(25), 0);
     }
@@ -315,7 +292,7 @@ private slots:
         p.show();
         p.tap(23, PageTest::Middle);
         p.tap(24, PageTest::Middle);
-        QCOMPARE(sent(), expected({"2E 83 02 60 01 ck", "2E 83 02 60 02 ck"}));
+        QCOMPARE(sent(), hexOf({"2E 83 02 60 01 ck", "2E 83 02 60 02 ck"}));
         HostSim::clearSentFrames();
         for (int row : {0, 8, 22, 25})
             p.tap(row, PageTest::Middle);
@@ -332,7 +309,7 @@ private slots:
         p.show();
         QCOMPARE(p.shown(13), QString("New Regal"));
         p.tap(13, PageTest::RightArrow);
-        QCOMPARE(sent(), expected({"2E E2 01 01 ck"}));
+        QCOMPARE(sent(), hexOf({"2E E2 01 01 ck"}));
         QCOMPARE(int(buffer().byte(55)), 2);
         QCOMPARE(HostSim::savedUserData("CanbusCAR").toInt(), 2);
         QCOMPARE(p.shown(13), QString("New Cruze"));
@@ -340,7 +317,7 @@ private slots:
         HostSim::clearSentFrames();
         p.tap(13, PageTest::LeftArrow);
         p.tap(13, PageTest::LeftArrow);
-        QCOMPARE(sent(), expected({"2E E2 01 00 ck"}));
+        QCOMPARE(sent(), hexOf({"2E E2 01 00 ck"}));
         QCOMPARE(int(buffer().byte(55)), 0);
         QCOMPARE(HostSim::savedUserData("CanbusCAR").toInt(), 0);
         QCOMPARE(p.shown(13), QString("null"));
@@ -349,7 +326,7 @@ private slots:
         p.page()->ondataChanged();
         HostSim::clearSentFrames();
         p.tap(13, PageTest::RightArrow);
-        QCOMPARE(sent(), expected({"2E E2 01 21 ck"}));
+        QCOMPARE(sent(), hexOf({"2E E2 01 21 ck"}));
         QCOMPARE(p.shown(13), QString::fromUtf8("20 GL8 652T mid-to-high configuration"));
     }
 
@@ -395,7 +372,7 @@ private slots:
             stack->showIndex(index);
         QCOMPARE(sent(), QString());
         stack->showIndex(OnStar);
-        QCOMPARE(sent(), expected({"2E 90 01 41 ck", "2E 90 01 42 ck"}));
+        QCOMPARE(sent(), hexOf({"2E 90 01 41 ck", "2E 90 01 42 ck"}));
     }
 
     // Seventeen keys in the panel's grid, each key's code its place in the
@@ -415,7 +392,7 @@ private slots:
             QVERIFY(key->isVisible());
             HostSim::clearSentFrames();
             p.tap(texts.at(code));
-            QCOMPARE(sent(), expected({QString("2E C6 01 %1 ck").arg(code, 2, 16, QChar('0')), "2E C6 01 00 ck"}));
+            QCOMPARE(sent(), hexOf({QString("2E C6 01 %1 ck").arg(code, 2, 16, QChar('0')), "2E C6 01 00 ck"}));
         }
         // A second createView() builds nothing more.
         p.page()->createView();
@@ -428,24 +405,24 @@ private slots:
     {
         KeyPage p(PanelKeys);
         QMetaObject::invokeMethod(p.page(), "onCountdown");
-        QCOMPARE(sent(), expected({"2E C6 01 00 ck"}));
+        QCOMPARE(sent(), hexOf({"2E C6 01 00 ck"}));
         HostSim::clearSentFrames();
 
         CustomImageButton *key = p.key("FM/AM");
         QTest::mousePress(key, Qt::LeftButton, {}, key->rect().center());
-        QCOMPARE(sent(), expected({"2E C6 01 06 ck"}));
+        QCOMPARE(sent(), hexOf({"2E C6 01 06 ck"}));
         QTRY_COMPARE_WITH_TIMEOUT(HostSim::sentFrames().size(), 2, 3000);
         QTest::mouseRelease(key, Qt::LeftButton, {}, key->rect().center());
-        QCOMPARE(sent(), expected({"2E C6 01 06 ck", "2E C6 01 06 ck", "2E C6 01 00 ck"}));
+        QCOMPARE(sent(), hexOf({"2E C6 01 06 ck", "2E C6 01 06 ck", "2E C6 01 00 ck"}));
 
         HostSim::clearSentFrames();
         QMetaObject::invokeMethod(p.page(), "onCountdown");
-        QCOMPARE(sent(), expected({"2E C6 01 06 ck"}));
+        QCOMPARE(sent(), hexOf({"2E C6 01 06 ck"}));
         // A short tap of another key doesn't replace the held one.
         p.tap("9");
         HostSim::clearSentFrames();
         QMetaObject::invokeMethod(p.page(), "onCountdown");
-        QCOMPARE(sent(), expected({"2E C6 01 06 ck"}));
+        QCOMPARE(sent(), hexOf({"2E C6 01 06 ck"}));
     }
 
     // The half bytes of the number's characters, and the call's ten data
@@ -503,7 +480,7 @@ private slots:
         p.dial("12");
         HostSim::clearSentFrames();
         p.tap(key);
-        QCOMPARE(sent(), expected({frame}));
+        QCOMPARE(sent(), hexOf({frame}));
         QCOMPARE(p.number(), number);
     }
 
@@ -515,7 +492,7 @@ private slots:
         QCOMPARE(p.number(), QString("1234#"));
         HostSim::clearSentFrames();
         p.tap("call");
-        QCOMPARE(sent(), expected({"2E 86 0A 12 34 BF FF FF FF FF FF FF FF ck"}));
+        QCOMPARE(sent(), hexOf({"2E 86 0A 12 34 BF FF FF FF FF FF FF FF ck"}));
         QCOMPARE(HostSim::sentFrames().first().size(), 14);
 
         const QList<QPair<QString, QPair<int, int>>> cells = {
@@ -556,7 +533,7 @@ private slots:
         QCOMPARE(p.number(), QString("0*"));
         HostSim::clearSentFrames();
         p.tap("call");
-        QCOMPARE(sent(), expected({"2E 86 0A 0A FF FF FF FF FF FF FF FF FF ck"}));
+        QCOMPARE(sent(), hexOf({"2E 86 0A 0A FF FF FF FF FF FF FF FF FF ck"}));
 
         QTest::mousePress(del, Qt::LeftButton, {}, del->rect().center());
         QTRY_COMPARE_WITH_TIMEOUT(p.number(), QString(), 3000);
@@ -609,7 +586,7 @@ private slots:
         p.dial("7");
         HostSim::clearSentFrames();
         p.tap("call");
-        QCOMPARE(sent(), expected({"2E 86 0A 7F FF FF FF FF FF FF FF FF FF ck"}));
+        QCOMPARE(sent(), hexOf({"2E 86 0A 7F FF FF FF FF FF FF FF FF FF ck"}));
 
         buffer().setByte(140, 3);
         buffer().setText(136, "4008");

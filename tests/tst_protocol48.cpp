@@ -2,22 +2,21 @@
 // builds from the data buffer and the records, and the frames of their
 // arrows and middle strips byte for byte, each with its checksum slot.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
 #include "carbodydata.h"
-#include "exview.h"
-#include "listview.h"
 
-#include <QPointer>
 
+using PageTest::ExtendedView;
 using PageTest::frame;
 using PageTest::hex;
+using PageTest::hexOf;
 using PageTest::LeftArrow;
 using PageTest::Middle;
 using PageTest::RightArrow;
+using PageTest::byteText;
+using PageTest::sent;
 
 namespace {
 
@@ -32,46 +31,7 @@ DataBuffer buffer()
     return HostSim::buffer(Protocol);
 }
 
-class Page : public PageTest::Page
-{
-public:
-    explicit Page(int index) : PageTest::Page(Protocol, index) {}
-
-    // Taps an arrow and gives the frames sent, cleared afterwards.
-    QString arrow(int row, bool down)
-    {
-        tap(row, down ? LeftArrow : RightArrow);
-        const QString sent = hex(HostSim::sentFrames());
-        HostSim::clearSentFrames();
-        return sent;
-    }
-
-    QStringList titles() const
-    {
-        QStringList list;
-        for (int row = 0; row < rows(); ++row)
-            list << title(row);
-        return list;
-    }
-};
-
-QString expected(QStringList const &texts)
-{
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << frame(text);
-    return hex(list);
-}
-
-QString expected(QString const &text)
-{
-    return expected(QStringList{text});
-}
-
-QString byteText(int value)
-{
-    return QString("%1").arg(value & 0xFF, 2, 16, QChar('0'));
-}
+typedef PageTest::FamilyPage<Protocol> Page;
 
 } // namespace
 
@@ -118,11 +78,11 @@ private slots:
 
         // Its arrows send 2E C6 03 A8 state 00, and the row waits.
         p.show();
-        QCOMPARE(p.arrow(14, false), expected("2E C6 03 A8 00 00 ck"));
+        QCOMPARE(p.arrow(14, false), hexOf({"2E C6 03 A8 00 00 ck"}));
         data.setByte(46, 9);
         p.page()->ondataChanged();
-        QCOMPARE(p.arrow(14, false), expected("2E C6 03 A8 03 00 ck"));
-        QCOMPARE(p.arrow(14, true), expected("2E C6 03 A8 02 00 ck"));
+        QCOMPARE(p.arrow(14, false), hexOf({"2E C6 03 A8 03 00 ck"}));
+        QCOMPARE(p.arrow(14, true), hexOf({"2E C6 03 A8 02 00 ck"}));
         QCOMPARE(p.value(14), 3);
         // The radar and drive rows have no arrows.
         QCOMPARE(p.arrow(0, false), QString());
@@ -188,7 +148,7 @@ private slots:
         buffer().setByte(35, quint8(code));
         Page p(Parking);
         p.show();
-        QCOMPARE(p.arrow(3, down), expected("2E C6 03 A4 " + byteText(sent) + " 00 ck"));
+        QCOMPARE(p.arrow(3, down), hexOf({"2E C6 03 A4 " + byteText(sent) + " 00 ck"}));
         QCOMPARE(p.shown(3), shown);
         // The buffer is the car's: the next refresh shows its code again.
         p.page()->ondataChanged();
@@ -281,7 +241,7 @@ private slots:
         Page p(Multimedia);
         p.show();
         const QString before = p.shown(row);
-        QCOMPARE(p.arrow(row, down), expected("2E C6 03 A9 " + byteText(code) + " 00 ck"));
+        QCOMPARE(p.arrow(row, down), hexOf({"2E C6 03 A9 " + byteText(code) + " 00 ck"}));
         // The row changes when the car answers.
         QCOMPARE(p.shown(row), before);
     }
@@ -321,7 +281,7 @@ private slots:
         p.tap(1, RightArrow);
         QVERIFY(HostSim::sentFrames().isEmpty());
         p.step(1, false);
-        QCOMPARE(hex(HostSim::sentFrames()), expected("2E A0 02 00 00 ck"));
+        QCOMPARE(sent(), hexOf({"2E A0 02 00 00 ck"}));
     }
 
     // 2E C6 03 A7 function b5: a value, or 1 for the right arrow and 2 for
@@ -362,7 +322,7 @@ private slots:
         QCOMPARE(p.shown(12), QString("high"));
         p.show();
         const QString before = p.shown(row);
-        QCOMPARE(p.arrow(row, down), expected(frame));
+        QCOMPARE(p.arrow(row, down), hexOf({frame}));
         QCOMPARE(p.shown(row), before);
     }
 
@@ -416,7 +376,7 @@ private slots:
         buffer().setByte(108 + row, quint8(raw));
         Page p(Amplifier);
         p.show();
-        QCOMPARE(p.arrow(row, down), expected(frame));
+        QCOMPARE(p.arrow(row, down), hexOf({frame}));
         QCOMPARE(p.value(row), raw);
     }
 
@@ -432,7 +392,7 @@ private slots:
         p.tap(0, Middle);
         QVERIFY(HostSim::sentFrames().isEmpty());
         p.tap(9, Middle);
-        QCOMPARE(hex(HostSim::sentFrames()), expected("2E C3 02 FF 00 ck"));
+        QCOMPARE(sent(), hexOf({"2E C3 02 FF 00 ck"}));
         QCOMPARE(HostSim::sentFrames().at(0).size(), 6);
     }
 
@@ -518,7 +478,7 @@ private slots:
         buffer().setByte(105, quint8(brightness));
         Page p(AmbientLight);
         p.show();
-        QCOMPARE(p.arrow(row, down), expected(frame));
+        QCOMPARE(p.arrow(row, down), hexOf({frame}));
         // The car answers; until then the row and the buffer stay.
         QCOMPARE(int(buffer().byte(104)), colour);
         QCOMPARE(int(buffer().byte(105)), brightness);
@@ -550,7 +510,6 @@ private slots:
         QCOMPARE(p.shown(33), QString("freed"));
 
         p.show();
-        QStringList sent;
         QStringList frames;
         for (int row = 0; row < 34; ++row) {
             QVERIFY(p.index(row).data(AdjustableRole).toBool());
@@ -561,15 +520,15 @@ private slots:
             p.tap(row, RightArrow);
             frames << QString("2E C9 02 %1 %2 ck").arg(byteText(subs[row]), byteText(qMin(value + 1, highest)));
         }
-        QCOMPARE(hex(HostSim::sentFrames()), expected(frames));
+        QCOMPARE(sent(), hexOf(frames));
         HostSim::clearSentFrames();
 
         // Unit of measure: the options go out as 0, 2, 3.
-        QCOMPARE(p.arrow(31, true), expected("2E C9 02 71 00 ck"));
-        QCOMPARE(p.arrow(31, false), expected("2E C9 02 71 03 ck"));
+        QCOMPARE(p.arrow(31, true), hexOf({"2E C9 02 71 00 ck"}));
+        QCOMPARE(p.arrow(31, false), hexOf({"2E C9 02 71 03 ck"}));
         data.setByte(78, 0);
         p.page()->ondataChanged();
-        QCOMPARE(p.arrow(31, false), expected("2E C9 02 71 02 ck"));
+        QCOMPARE(p.arrow(31, false), hexOf({"2E C9 02 71 02 ck"}));
     }
 
     // The headlight delay is first read from the ambient light's byte, as
@@ -587,15 +546,15 @@ private slots:
         QCOMPARE(p.changedRows([] {}), QList<int>{});
 
         p.show();
-        QCOMPARE(p.arrow(12, true), expected("2E C9 02 21 14 ck"));
-        QCOMPARE(p.arrow(12, false), expected("2E C9 02 21 78 ck"));
+        QCOMPARE(p.arrow(12, true), hexOf({"2E C9 02 21 14 ck"}));
+        QCOMPARE(p.arrow(12, false), hexOf({"2E C9 02 21 78 ck"}));
         QCOMPARE(p.changedRows([&] { data.setByte(59, 0); }), QList<int>{12});
         QCOMPARE(p.shown(12), QString("OFF"));
-        QCOMPARE(p.arrow(12, false), expected("2E C9 02 21 0A ck"));
+        QCOMPARE(p.arrow(12, false), hexOf({"2E C9 02 21 0A ck"}));
         QCOMPARE(p.changedRows([&] { data.setByte(59, 3); }), QList<int>{12});
         QCOMPARE(p.shown(12), QString());
-        QCOMPARE(p.arrow(12, false), expected("2E C9 02 21 00 ck"));
-        QCOMPARE(p.arrow(12, true), expected("2E C9 02 21 00 ck"));
+        QCOMPARE(p.arrow(12, false), hexOf({"2E C9 02 21 00 ck"}));
+        QCOMPARE(p.arrow(12, true), hexOf({"2E C9 02 21 00 ck"}));
 
         // An ambient light byte that is no delay: the row starts empty.
         data.setByte(58, 50);
@@ -703,7 +662,7 @@ private slots:
         buffer().setByte(row, quint8(raw));
         Page p(BasicInformation);
         p.show();
-        QCOMPARE(p.arrow(row, down), expected(frame));
+        QCOMPARE(p.arrow(row, down), hexOf({frame}));
         QCOMPARE(p.value(row), raw);
     }
 
@@ -744,7 +703,7 @@ private slots:
         p.tap(4, RightArrow);
         QVERIFY(HostSim::sentFrames().isEmpty());
         p.step(4, false);
-        QCOMPARE(hex(HostSim::sentFrames()), expected("2E C6 03 A7 00 00 ck"));
+        QCOMPARE(sent(), hexOf({"2E C6 03 A7 00 00 ck"}));
 
         // Without the climate record the rows are empty.
         HostSim::setRecordAvailable(HostSim::AirRecord, false);
@@ -795,12 +754,12 @@ private slots:
         data.setByte(107, 2);
         Page p(SyncCommand);
         p.show();
-        QCOMPARE(p.arrow(6, false), expected("2E 91 02 05 02 ck"));
+        QCOMPARE(p.arrow(6, false), hexOf({"2E 91 02 05 02 ck"}));
         QCOMPARE(int(data.byte(106)), 5);
         QCOMPARE(p.shown(6), QString("19 Taurus, 18 Mondeo hybrids"));
         QCOMPARE(HostSim::savedUserData("CanbusCAR").toInt(), 5);
 
-        QCOMPARE(p.arrow(7, true), expected("2E 91 02 05 01 ck"));
+        QCOMPARE(p.arrow(7, true), hexOf({"2E 91 02 05 01 ck"}));
         QCOMPARE(int(data.byte(107)), 1);
         QCOMPARE(p.shown(7), QString("Mid-range"));
         QCOMPARE(HostSim::savedUserData("CanbusCAR").toInt(), 5);
@@ -809,9 +768,9 @@ private slots:
         data.setByte(106, 7);
         p.page()->ondataChanged();
         HostSim::clearSentFrames();
-        QCOMPARE(p.arrow(6, false), expected("2E 91 02 07 01 ck"));
+        QCOMPARE(p.arrow(6, false), hexOf({"2E 91 02 07 01 ck"}));
         QCOMPARE(HostSim::savedUserData("CanbusCAR").toInt(), 7);
-        QCOMPARE(p.arrow(6, true), expected("2E 91 02 06 01 ck"));
+        QCOMPARE(p.arrow(6, true), hexOf({"2E 91 02 06 01 ck"}));
         QCOMPARE(HostSim::savedUserData("CanbusCAR").toInt(), 6);
         QCOMPARE(p.changedRows([] {}), QList<int>{});
 
@@ -853,7 +812,7 @@ private slots:
         const QVariant saved = HostSim::savedUserData("CanbusCAR");
         Page p(SyncCommand);
         p.show();
-        QCOMPARE(p.arrow(row, down), expected(frame));
+        QCOMPARE(p.arrow(row, down), hexOf({frame}));
         QCOMPARE(int(data.byte(row == 8 ? 235 : 236)), stored);
         QCOMPARE(p.value(row), stored);
         // Only the model is saved.
@@ -864,14 +823,9 @@ private slots:
     // opens from the list with its rows and follows the car while in front.
     void extendedViewShowsLivePages()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
-        QCOMPARE(list->model()->rowCount(), 10);
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        QCOMPARE(v.list->model()->rowCount(), 10);
         struct Case
         {
             QString title;
@@ -894,27 +848,19 @@ private slots:
             {"SYNC command", 10, 9, [] { buffer().setByte(236, 4); }, "South"},
         };
         for (int index = 0; index < cases.size(); ++index) {
+            Case const &c = cases.at(index);
             HostSim::clearSentFrames();
-            const QModelIndex title = list->model()->index(index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
+            CarExViewBase *stack = v.open(index);
             QVERIFY(stack->isVisible());
             QCOMPARE(stack->currentIndex(), index);
-            auto *page = qobject_cast<CarInfoItem *>(stack->currentWidget());
-            QCOMPARE(page->getTitle(), cases.at(index).title);
-            QCOMPARE(hex(HostSim::sentFrames()), index == 0 ? expected("2E 90 01 27 ck") : QString());
-            auto *table = page->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), cases.at(index).rows);
-            cases.at(index).change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(cases.at(index).row, 0).data(DisplayValueRole).toString(),
-                     cases.at(index).shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
+            QCOMPARE(v.page()->getTitle(), c.title);
+            QCOMPARE(sent(), index == 0 ? hexOf({"2E 90 01 27 ck"}) : QString());
+            QVERIFY(v.table());
+            QCOMPARE(v.rows(), c.rows);
+            QCOMPARE(v.shownAfter(c.change, c.row), c.shown);
+            v.back();
+            QVERIFY(v.list->isVisible());
         }
-        delete view;
     }
 };
 

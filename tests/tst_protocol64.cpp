@@ -3,16 +3,10 @@
 // warnings and their panel, the parking model and the panorama codes; the
 // stack's timer.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
-#include "tirepressure.h"
 
-#include <QPointer>
 #include <QTimer>
 
 using namespace PageTest;
@@ -26,24 +20,6 @@ enum PageIndex { Energy, Voice, Functions, Settings, Tyres, Vehicle, Parking, Pa
 DataBuffer data()
 {
     return HostSim::buffer(Id);
-}
-
-QString hexOf(QStringList const &texts)
-{
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << frame(text);
-    return hex(list);
-}
-
-QString sent()
-{
-    return hex(HostSim::sentFrames());
-}
-
-QString byteText(int value)
-{
-    return QString("%1").arg(value & 0xFF, 2, 16, QChar('0'));
 }
 
 } // namespace
@@ -421,58 +397,25 @@ private slots:
     // family's frame.
     void extendedView()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
-        QCOMPARE(list->model()->rowCount(), 8);
-        struct Case
-        {
-            int index;
-            int rows;
-            int row;
-            std::function<void()> change;
-            QString shown;
-        };
-        const QList<Case> cases = {
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        QCOMPARE(v.list->model()->rowCount(), 8);
+        v.expectLivePages({
             {Energy, 11, 10, [] { data().setText(304, "120km"); }, "120km"},
             {Settings, 75, 57, [] { data().setByte(269, 2); }, "English"},
             {Tyres, 41, 23, [] { data().setByte(195, 1); }, "have"},
             {Parking, 6, 5, [] { data().setByte(177, 2); }, "18 Changan Lingxuan"},
             {Panorama, 4, 3, [] { data().setByte(156, 1); }, "Normal mode"},
-        };
-        for (Case const &c : cases) {
-            const QModelIndex title = list->model()->index(c.index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
-            QVERIFY(stack->isVisible());
-            QCOMPARE(stack->currentIndex(), c.index);
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), c.rows);
-            c.change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(c.row, 0).data(DisplayValueRole).toString(), c.shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
-        }
+        });
+        if (QTest::currentTestFailed())
+            return;
 
-        const QModelIndex tyres = list->model()->index(Tyres, 0);
-        list->scrollTo(tyres);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(tyres).center());
-        HostSim::clearSentFrames();
-        tap(view->findChild<CarExViewBase *>()->currentWidget()->findChild<TableView *>(), 40, Middle);
-        auto *panel = view->findChild<TirePressure *>("tirePressure");
+        v.open(Tyres);
+        TirePressure *panel = v.openTyrePanel(40);
         QVERIFY(panel && panel->isVisible());
-        auto *reset = panel->findChild<QWidget *>("resetButton");
-        QTest::mouseClick(reset, Qt::LeftButton, {}, reset->rect().center());
+        v.tapReset(panel);
         QCOMPARE(sent(), hexOf({"2E 83 02 0C 01 ck"}));
         QVERIFY(!panel->isVisible());
-        delete view;
     }
 };
 

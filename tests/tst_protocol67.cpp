@@ -4,21 +4,17 @@
 // checksum bytes; the group frames with the buffer that they are built
 // from; the saved model; the pages live in the extended view.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
 
-#include <QPointer>
-
+using PageTest::ExtendedView;
 using PageTest::frame;
 using PageTest::hex;
 using PageTest::LeftArrow;
 using PageTest::Middle;
 using PageTest::RightArrow;
+using PageTest::sent;
 
 namespace {
 
@@ -44,8 +40,7 @@ DataBuffer buffer()
 
 void setBytes(int offset, QList<int> const &bytes)
 {
-    for (int i = 0; i < bytes.size(); ++i)
-        buffer().setByte(offset + i, quint8(bytes.at(i)));
+    PageTest::setBytes(buffer(), offset, bytes);
 }
 
 QList<int> bytesAt(int offset, int count)
@@ -63,24 +58,16 @@ QByteArray fd(QString const &text)
 
 QList<QByteArray> fds(QStringList const &texts)
 {
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << fd(text);
-    return list;
-}
-
-QString sent()
-{
-    return hex(HostSim::sentFrames());
+    return PageTest::frames(texts, Protocol);
 }
 
 // The frame that a read-only page keeps: FD 05 84, nothing else set.
 const char *const Skeleton = "FD 05 84 00 ck ck";
 
-class Page : public PageTest::Page
+class Page : public PageTest::FamilyPage<Protocol>
 {
 public:
-    explicit Page(int index) : PageTest::Page(Protocol, index) {}
+    using FamilyPage::FamilyPage;
 
     void expectShown(QStringList const &texts)
     {
@@ -273,45 +260,6 @@ private slots:
         QCOMPARE(p.shown(13), modeShown);
     }
 
-    // Rows 3 to 9 write their byte (the speed limit as its code) and send
-    // FD 08 A9 0A air regeneration speed; the reset goes alone.
-    void driveModeFrames_data()
-    {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<bool>("down");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<int>("byte");
-        auto add = [](const char *name, int row, bool down, const char *expected, int byte) {
-            QTest::newRow(name) << row << down << QString(expected) << byte;
-        };
-        add("speed up", 3, false, "FD 08 A9 0A 50 18 78 ck ck", 0x78);
-        add("speed down", 3, true, "FD 08 A9 0A 50 18 64 ck ck", 0x64);
-        add("ECO regeneration up", 4, false, "FD 08 A9 0A 50 28 6E ck ck", 2);
-        add("COMFORT regeneration at the bottom", 5, true, "FD 08 A9 0A 50 18 6E ck ck", 0);
-        add("SPORT regeneration at the top", 6, false, "FD 08 A9 0A 50 18 6E ck ck", 2);
-        add("ECO air standard", 7, true, "FD 08 A9 0A 10 18 6E ck ck", 0);
-        add("COMFORT air ECO", 8, false, "FD 08 A9 0A 54 18 6E ck ck", 1);
-        add("SPORT air standard", 9, true, "FD 08 A9 0A 40 18 6E ck ck", 0);
-        add("reset sure", 14, false, "FD 06 A9 0B 01 ck ck", 0);
-        add("reset cancel", 14, true, "FD 06 A9 0B 00 ck ck", 0);
-    }
-    void driveModeFrames()
-    {
-        QFETCH(int, row);
-        QFETCH(bool, down);
-        QFETCH(QString, expected);
-        QFETCH(int, byte);
-        fillDriveModes();
-        Page p(DriveModes);
-        p.show();
-        const QString before = p.shown(row);
-        p.tap(row, down ? LeftArrow : RightArrow);
-        QCOMPARE(sent(), hex({fd(expected)}));
-        // The reset's byte lies behind the two texts.
-        QCOMPARE(int(buffer().byte(row == 14 ? 373 : 352 + row)), byte);
-        QCOMPARE(p.shown(row), before);
-    }
-
     // A speed limit that isn't a code shows nothing; a step starts from
     // "none", whose code goes out.
     void driveModeUnknownSpeed()
@@ -462,57 +410,82 @@ private slots:
         QCOMPARE(p.shown(42), QString::fromUtf8("29.0℃"));
     }
 
-    // Each setting writes its byte and sends its group from the buffer,
+    // A step writes the row's byte and sends its group from the buffer; the
+    // row keeps its text. Drive modes: rows 3 to 9 write their byte (the speed
+    // limit as its code) and send FD 08 A9 0A air regeneration speed; the
+    // reset goes alone. Appointments: each setting sends its group
     // zero-filled; the way goes out alone, counted from 1.
-    void appointmentFrames_data()
+    void groupFrames_data()
     {
+        QTest::addColumn<int>("index");
         QTest::addColumn<int>("row");
         QTest::addColumn<bool>("down");
         QTest::addColumn<QString>("expected");
+        QTest::addColumn<int>("offset");
         QTest::addColumn<int>("byte");
-        auto add = [](const char *name, int row, bool down, const char *expected, int byte) {
-            QTest::newRow(name) << row << down << QString(expected) << byte;
+        auto drive = [](const char *name, int row, bool down, const char *expected, int byte) {
+            // The reset's byte lies behind the two texts.
+            QTest::newRow(name) << int(DriveModes) << row << down << QString(expected)
+                                << (row == 14 ? 373 : 352 + row) << byte;
         };
-        add("way 2", 0, false, "FD 06 A9 01 03 ck ck", 2);
-        add("way off", 0, true, "FD 06 A9 01 01 ck ck", 2);
-        add("start minute", 1, false, "FD 08 A9 02 87 09 55 ck ck", 4);
-        add("start hour", 2, false, "FD 08 A9 02 68 09 55 ck ck", 8);
-        add("end minute at the bottom", 3, true, "FD 08 A9 02 67 09 55 ck ck", 0);
-        add("end hour", 4, false, "FD 08 A9 02 67 0A 55 ck ck", 10);
-        add("Sunday off", 5, true, "FD 08 A9 02 67 09 15 ck ck", 0);
-        add("Tuesday on", 7, false, "FD 08 A9 02 67 09 57 ck ck", 1);
-        add("Saturday on", 11, false, "FD 08 A9 02 67 09 75 ck ck", 1);
-        add("time 1 minute", 12, true, "FD 07 A9 05 16 9F ck ck", 0);
-        add("time 1 hour to the top", 13, false, "FD 07 A9 05 37 9F ck ck", 23);
-        add("time 1 Sunday", 14, false, "FD 07 A9 05 36 DF ck ck", 1);
-        add("time 1 Saturday", 20, false, "FD 07 A9 05 36 BF ck ck", 1);
-        add("time 1 off", 21, true, "FD 07 A9 05 36 1F ck ck", 0);
-        add("time 2 minute at the top", 22, false, "FD 07 A9 06 A6 20 ck ck", 5);
-        add("time 2 Monday", 25, false, "FD 07 A9 06 A6 21 ck ck", 1);
-        add("time 2 on", 31, false, "FD 07 A9 06 A6 A0 ck ck", 1);
-        add("scheduled start minute", 32, true, "FD 08 A9 04 03 37 85 ck ck", 1);
-        add("scheduled end hour", 35, false, "FD 08 A9 04 03 57 86 ck ck", 6);
-        add("reserved time off", 38, true, "FD 08 A9 04 01 57 85 ck ck", 0);
-        add("discounted first way", 39, true, "FD 08 A9 04 02 57 85 ck ck", 0);
-        add("reservation off", 36, true, "FD 06 A9 07 01 ck ck", 0);
-        add("defrost on", 37, false, "FD 06 A9 07 C1 ck ck", 1);
-        add("temperature up", 42, false, "FD 06 A9 07 82 ck ck", 2);
-        add("pile current reduce", 40, true, "FD 06 A9 03 05 ck ck", 1);
-        add("portable current least", 41, false, "FD 06 A9 03 0A ck ck", 2);
+        auto appointment = [](const char *name, int row, bool down, const char *expected, int byte) {
+            QTest::newRow(name) << int(Appointments) << row << down << QString(expected) << 219 + row << byte;
+        };
+        drive("speed up", 3, false, "FD 08 A9 0A 50 18 78 ck ck", 0x78);
+        drive("speed down", 3, true, "FD 08 A9 0A 50 18 64 ck ck", 0x64);
+        drive("ECO regeneration up", 4, false, "FD 08 A9 0A 50 28 6E ck ck", 2);
+        drive("COMFORT regeneration at the bottom", 5, true, "FD 08 A9 0A 50 18 6E ck ck", 0);
+        drive("SPORT regeneration at the top", 6, false, "FD 08 A9 0A 50 18 6E ck ck", 2);
+        drive("ECO air standard", 7, true, "FD 08 A9 0A 10 18 6E ck ck", 0);
+        drive("COMFORT air ECO", 8, false, "FD 08 A9 0A 54 18 6E ck ck", 1);
+        drive("SPORT air standard", 9, true, "FD 08 A9 0A 40 18 6E ck ck", 0);
+        drive("reset sure", 14, false, "FD 06 A9 0B 01 ck ck", 0);
+        drive("reset cancel", 14, true, "FD 06 A9 0B 00 ck ck", 0);
+        appointment("way 2", 0, false, "FD 06 A9 01 03 ck ck", 2);
+        appointment("way off", 0, true, "FD 06 A9 01 01 ck ck", 2);
+        appointment("start minute", 1, false, "FD 08 A9 02 87 09 55 ck ck", 4);
+        appointment("start hour", 2, false, "FD 08 A9 02 68 09 55 ck ck", 8);
+        appointment("end minute at the bottom", 3, true, "FD 08 A9 02 67 09 55 ck ck", 0);
+        appointment("end hour", 4, false, "FD 08 A9 02 67 0A 55 ck ck", 10);
+        appointment("Sunday off", 5, true, "FD 08 A9 02 67 09 15 ck ck", 0);
+        appointment("Tuesday on", 7, false, "FD 08 A9 02 67 09 57 ck ck", 1);
+        appointment("Saturday on", 11, false, "FD 08 A9 02 67 09 75 ck ck", 1);
+        appointment("time 1 minute", 12, true, "FD 07 A9 05 16 9F ck ck", 0);
+        appointment("time 1 hour to the top", 13, false, "FD 07 A9 05 37 9F ck ck", 23);
+        appointment("time 1 Sunday", 14, false, "FD 07 A9 05 36 DF ck ck", 1);
+        appointment("time 1 Saturday", 20, false, "FD 07 A9 05 36 BF ck ck", 1);
+        appointment("time 1 off", 21, true, "FD 07 A9 05 36 1F ck ck", 0);
+        appointment("time 2 minute at the top", 22, false, "FD 07 A9 06 A6 20 ck ck", 5);
+        appointment("time 2 Monday", 25, false, "FD 07 A9 06 A6 21 ck ck", 1);
+        appointment("time 2 on", 31, false, "FD 07 A9 06 A6 A0 ck ck", 1);
+        appointment("scheduled start minute", 32, true, "FD 08 A9 04 03 37 85 ck ck", 1);
+        appointment("scheduled end hour", 35, false, "FD 08 A9 04 03 57 86 ck ck", 6);
+        appointment("reserved time off", 38, true, "FD 08 A9 04 01 57 85 ck ck", 0);
+        appointment("discounted first way", 39, true, "FD 08 A9 04 02 57 85 ck ck", 0);
+        appointment("reservation off", 36, true, "FD 06 A9 07 01 ck ck", 0);
+        appointment("defrost on", 37, false, "FD 06 A9 07 C1 ck ck", 1);
+        appointment("temperature up", 42, false, "FD 06 A9 07 82 ck ck", 2);
+        appointment("pile current reduce", 40, true, "FD 06 A9 03 05 ck ck", 1);
+        appointment("portable current least", 41, false, "FD 06 A9 03 0A ck ck", 2);
     }
-    void appointmentFrames()
+    void groupFrames()
     {
+        QFETCH(int, index);
         QFETCH(int, row);
         QFETCH(bool, down);
         QFETCH(QString, expected);
+        QFETCH(int, offset);
         QFETCH(int, byte);
-        fillAppointments();
-        Page p(Appointments);
+        if (index == DriveModes)
+            fillDriveModes();
+        else
+            fillAppointments();
+        Page p(index);
         p.show();
         const QString before = p.shown(row);
         p.tap(row, down ? LeftArrow : RightArrow);
         QCOMPARE(sent(), hex({fd(expected)}));
-        QCOMPARE(int(buffer().byte(219 + row)), byte);
+        QCOMPARE(int(buffer().byte(offset)), byte);
         QCOMPARE(p.shown(row), before);
         QVERIFY(p.signalled.isEmpty());
     }
@@ -740,22 +713,9 @@ private slots:
     // while they are in front.
     void extendedViewShowsLivePages()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
-        struct Case
-        {
-            int index;
-            int rows;
-            int row;
-            std::function<void()> change;
-            QString shown;
-        };
-        const QList<Case> cases = {
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        v.expectLivePages({
             {Amplifier, 6, 3, [] { setBytes(379, {12}); }, "2"},
             {DriveModes, 15, 3, [] { setBytes(355, {0xFE}); }, "none"},
             {ChargeAmounts, 9, 1, [] { setBytes(320, {45}); }, "90%"},
@@ -766,24 +726,7 @@ private slots:
             {Panorama, 8, 0, [] { setBytes(196, {2}); }, "Current is backward view"},
             {Tyres, 28, 0, [] { HostSim::airData()->tirePressure.frontLeftPressure = "2.6 bar"; }, "2.6 bar"},
             {Body, 16, 15, [] { setBytes(174, {1}); }, "English"},
-        };
-        for (Case const &c : cases) {
-            const QModelIndex title = list->model()->index(c.index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
-            QVERIFY(stack->isVisible());
-            QCOMPARE(stack->currentIndex(), c.index);
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), c.rows);
-            c.change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(c.row, 0).data(DisplayValueRole).toString(), c.shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
-        }
-        delete view;
+        });
     }
 };
 

@@ -3,16 +3,10 @@
 // its panel, the panorama camera in 2D and 3D, the setting pages with their
 // group and item frames, packed lamps and step rules, and the model choice.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
 #include "airdata.h"
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
-#include "tirepressure.h"
 
-#include <QPointer>
 
 using namespace PageTest;
 
@@ -35,19 +29,6 @@ QString setup(int g, int i, int v)
 {
     return QString("2E C6 03 %1 %2 %3 ck").arg(g, 2, 16, QChar('0')).arg(i, 2, 16, QChar('0'))
         .arg(v & 0xFF, 2, 16, QChar('0'));
-}
-
-QString hexOf(QStringList const &texts)
-{
-    QList<QByteArray> list;
-    for (QString const &text : texts)
-        list << frame(text);
-    return hex(list);
-}
-
-QString sent()
-{
-    return hex(HostSim::sentFrames());
 }
 
 } // namespace
@@ -537,23 +518,10 @@ private slots:
     // family's frame.
     void extendedView()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
-        QCOMPARE(list->model()->rowCount(), 15);
-        struct Case
-        {
-            int index;
-            int rows;
-            int row;
-            std::function<void()> change;
-            QString shown;
-        };
-        const QList<Case> cases = {
+        ExtendedView v;
+        QVERIFY(v.exposed());
+        QCOMPARE(v.list->model()->rowCount(), 15);
+        v.expectLivePages({
             {ElectricList, 51, 2, [] { data().setBytes(368, QByteArray(51, char(40))); }, "15kWh/km"},
             {FuelList, 51, 50, [] { data().setBytes(372, QByteArray(51, char(26))); }, "1L/km"},
             {Energy, 7, 0, [] { data().setByte(344, 1); }, "middle"},
@@ -566,36 +534,16 @@ private slots:
             {Setup1, 12, 11, [] { data().setByte(254, 9); }, "5 minute"},
             {Setup4, 55, 54, [] { data().setByte(242, 1); }, "English"},
             {Body, 8, 3, [] { data().setByte(168, 9); }, "Roewe-Other"},
-        };
-        for (Case const &c : cases) {
-            const QModelIndex title = list->model()->index(c.index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
-            QVERIFY(stack->isVisible());
-            QCOMPARE(stack->currentIndex(), c.index);
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), c.rows);
-            c.change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(c.row, 0).data(DisplayValueRole).toString(), c.shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
-        }
+        });
+        if (QTest::currentTestFailed())
+            return;
 
-        const QModelIndex tyres = list->model()->index(Tyres, 0);
-        list->scrollTo(tyres);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(tyres).center());
-        HostSim::clearSentFrames();
-        tap(view->findChild<CarExViewBase *>()->currentWidget()->findChild<TableView *>(), 12, Middle);
-        auto *panel = view->findChild<TirePressure *>("tirePressure");
+        v.open(Tyres);
+        TirePressure *panel = v.openTyrePanel(12);
         QVERIFY(panel && panel->isVisible());
-        auto *reset = panel->findChild<QWidget *>("resetButton");
-        QTest::mouseClick(reset, Qt::LeftButton, {}, reset->rect().center());
+        v.tapReset(panel);
         QCOMPARE(sent(), hexOf({"2E C6 03 04 01 01 ck"}));
         QVERIFY(!panel->isVisible());
-        delete view;
     }
 };
 

@@ -4,14 +4,9 @@
 // the two amplifiers, the saved car model, and the pages live in the
 // extended view.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
 
-#include <QPointer>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -29,29 +24,21 @@ DataBuffer buffer()
     return HostSim::buffer(Protocol);
 }
 
-void setBytes(int offset, std::initializer_list<int> values)
+void setBytes(int offset, QList<int> const &values)
 {
-    for (int value : values)
-        buffer().setByte(offset++, quint8(value));
+    PageTest::setBytes(buffer(), offset, values);
 }
 
+// A page of the family, shown.
 class Page87 : public Page
 {
 public:
     explicit Page87(int index) : Page(Protocol, index) { show(); }
-
-    // The frames that one tap sends, as text.
-    QString tapped(int row, bool down)
-    {
-        HostSim::clearSentFrames();
-        tap(row, down ? LeftArrow : RightArrow);
-        return hex(HostSim::sentFrames());
-    }
 };
 
 QString fd(QString const &text)
 {
-    return text.isEmpty() ? QString() : hex({frame(text)});
+    return text.isEmpty() ? QString() : hexOf({text});
 }
 
 } // namespace
@@ -133,7 +120,7 @@ private slots:
         setBytes(70, {configuration});
         Page87 p(Amplifier);
         const QString before = p.shown(row);
-        QCOMPARE(p.tapped(row, down), fd(expected));
+        QCOMPARE(p.arrow(row, down), fd(expected));
         QCOMPARE(int(buffer().byte(row)), written);
         QCOMPARE(p.shown(row), before);
     }
@@ -143,7 +130,7 @@ private slots:
         // Bytes beyond the first amplifier's range go out held to it.
         setBytes(0, {0, 255, 1, 17, 9, 1, 1, 5, 6, 6, 0});
         Page87 p(Amplifier);
-        QCOMPARE(p.tapped(4, false), fd("FD 0B C5 00 0E 00 0E 0A C5 66 01 ck"));
+        QCOMPARE(p.arrow(4, false), fd("FD 0B C5 00 0E 00 0E 0A C5 66 01 ck"));
     }
 
     void tripComputer()
@@ -169,16 +156,16 @@ private slots:
 
         // FD 06 82 flags hi lo: the switches in bits 7 to 5, the page below;
         // the mileage high byte first.
-        QCOMPARE(p.tapped(0, false), QString());
-        QCOMPARE(p.tapped(12, false), fd("FD 06 82 C2 04 B0 ck"));
-        QCOMPARE(p.tapped(13, true), fd("FD 06 82 82 04 B0 ck"));
-        QCOMPARE(p.tapped(14, false), fd("FD 06 82 A2 04 B0 ck"));
-        QCOMPARE(p.tapped(16, true), fd("FD 06 82 A1 04 B0 ck"));
+        QCOMPARE(p.arrow(0, false), QString());
+        QCOMPARE(p.arrow(12, false), fd("FD 06 82 C2 04 B0 ck"));
+        QCOMPARE(p.arrow(13, true), fd("FD 06 82 82 04 B0 ck"));
+        QCOMPARE(p.arrow(14, false), fd("FD 06 82 A2 04 B0 ck"));
+        QCOMPARE(p.arrow(16, true), fd("FD 06 82 A1 04 B0 ck"));
         // The step starts from the row as shown, 80, not from the buffer.
-        QCOMPARE(p.tapped(15, true), fd("FD 06 82 A1 00 4F ck"));
+        QCOMPARE(p.arrow(15, true), fd("FD 06 82 A1 00 4F ck"));
         buffer().setWord(64, 3000);
         p.page()->ondataChanged();
-        QCOMPARE(p.tapped(15, false), fd("FD 06 82 A1 0B B8 ck"));
+        QCOMPARE(p.arrow(15, false), fd("FD 06 82 A1 0B B8 ck"));
         QCOMPARE(int(buffer().word(64)), 3000);
     }
 
@@ -193,14 +180,14 @@ private slots:
         for (int row = 0; row < shown.size(); ++row)
             QCOMPARE(p.shown(row), shown.at(row));
         QVERIFY(!p.adjustable(0));
-        QCOMPARE(p.tapped(0, false), QString());
+        QCOMPARE(p.arrow(0, false), QString());
         QCOMPARE(p.changedRows([] { setBytes(72, {31}); setBytes(75, {15}); }), (QList<int>{4, 7}));
         QCOMPARE(p.shown(4), QString("31"));
-        QCOMPARE(p.tapped(4, false), fd("FD 05 80 0B 1F ck"));
+        QCOMPARE(p.arrow(4, false), fd("FD 05 80 0B 1F ck"));
 
         // The volume at its top and muted: the top bit over 30.
         QCOMPARE(p.changedRows([] { setBytes(76, {1, 30}); }), (QList<int>{8, 9}));
-        QCOMPARE(p.tapped(9, false), fd("FD 04 C4 9E ck"));
+        QCOMPARE(p.arrow(9, false), fd("FD 04 C4 9E ck"));
     }
 
     // The car model and its configuration go out as a pair, and only with a
@@ -236,7 +223,7 @@ private slots:
         QFETCH(QString, expected);
         setBytes(68, {12, model, 1, 1, 17, 0, 4, 9, 0, 20, 1, 8});
         Page87 p(Body);
-        QCOMPARE(p.tapped(row, down), fd(expected));
+        QCOMPARE(p.arrow(row, down), fd(expected));
         if (row == 1 || row == 2) {
             const int stepped = qBound(0, p.value(row) + (down ? -1 : 1), row == 1 ? 6 : 3);
             QCOMPARE(int(buffer().byte(68 + row)), stepped);
@@ -253,11 +240,11 @@ private slots:
         for (int mode = 0; mode < 8; ++mode) {
             buffer().setByte(74, quint8(mode));
             p.page()->ondataChanged();
-            QCOMPARE(p.tapped(6, false), fd(QString("FD 04 A8 %1 ck").arg(codes[mode + 1], 2, 16, QChar('0'))));
+            QCOMPARE(p.arrow(6, false), fd(QString("FD 04 A8 %1 ck").arg(codes[mode + 1], 2, 16, QChar('0'))));
         }
         buffer().setByte(74, 1);
         p.page()->ondataChanged();
-        QCOMPARE(p.tapped(6, true), fd("FD 04 A8 00 ck"));
+        QCOMPARE(p.arrow(6, true), fd("FD 04 A8 00 ck"));
     }
 
     // FD 06 8B days hi lo: the switch in bit 7, Monday in bit 6 down to
@@ -284,7 +271,7 @@ private slots:
         QFETCH(QString, expected);
         setBytes(88, {7, 30});
         Page87 p(Preset);
-        QCOMPARE(p.tapped(row, down), fd(expected));
+        QCOMPARE(p.arrow(row, down), fd(expected));
     }
 
     void presetsTogether()
@@ -296,9 +283,9 @@ private slots:
         QCOMPARE(p.title(7), QString("Sunday"));
         QCOMPARE(p.shown(2), QString());
         QCOMPARE(p.shown(8), QString("23"));
-        QCOMPARE(p.tapped(9, false), fd("FD 06 8B A4 05 9F ck"));
-        QCOMPARE(p.tapped(7, false), fd("FD 06 8B A5 05 9F ck"));
-        QCOMPARE(p.tapped(8, false), fd("FD 06 8B A5 05 9F ck"));
+        QCOMPARE(p.arrow(9, false), fd("FD 06 8B A4 05 9F ck"));
+        QCOMPARE(p.arrow(7, false), fd("FD 06 8B A5 05 9F ck"));
+        QCOMPARE(p.arrow(8, false), fd("FD 06 8B A5 05 9F ck"));
         QCOMPARE(p.changedRows([] {}), (QList<int>{7, 9}));
     }
 
@@ -318,7 +305,7 @@ private slots:
             const int value = row == 31 ? 2 : 1;
             const QString expected = subs.contains(row)
                 ? fd(QString("FD 05 80 %1 %2 ck").arg(subs[row], 2, 16, QChar('0')).arg(value)) : QString();
-            QVERIFY2(p.tapped(row, false) == expected, qPrintable(QString::number(row)));
+            QVERIFY2(p.arrow(row, false) == expected, qPrintable(QString::number(row)));
         }
         // The mood lighting shows its number.
         QCOMPARE(p.changedRows([] { setBytes(103, {200}); setBytes(92, {1}); }), (QList<int>{2, 13}));
@@ -326,17 +313,17 @@ private slots:
         QCOMPARE(p.shown(2), QString("Fahrenheit"));
         buffer().setByte(103, 255);
         p.page()->ondataChanged();
-        QCOMPARE(p.tapped(13, false), fd("FD 05 80 05 FF ck"));
+        QCOMPARE(p.arrow(13, false), fd("FD 05 80 05 FF ck"));
 
         const int codes[] = {2, 3, 6, 7, 8, 1, 1};
         for (int colour = 0; colour < 7; ++colour) {
             buffer().setByte(121, quint8(colour));
             p.page()->ondataChanged();
-            QCOMPARE(p.tapped(31, false), fd(QString("FD 05 80 17 %1 ck").arg(codes[colour], 2, 16, QChar('0'))));
+            QCOMPARE(p.arrow(31, false), fd(QString("FD 05 80 17 %1 ck").arg(codes[colour], 2, 16, QChar('0'))));
         }
         buffer().setByte(121, 1);
         p.page()->ondataChanged();
-        QCOMPARE(p.tapped(31, true), fd("FD 05 80 17 00 ck"));
+        QCOMPARE(p.arrow(31, true), fd("FD 05 80 17 00 ck"));
     }
 
     // FD 09 88 flags and the five speeds: one frame for the page. A speed
@@ -349,13 +336,13 @@ private slots:
         QCOMPARE(p.shown(6), QString("30.0km/h"));
         QCOMPARE(p.shown(9), QString("255.0km/h"));
         QCOMPARE(p.shown(2), QString("Cancel"));
-        QCOMPARE(p.tapped(9, false), fd("FD 09 88 6A 1E 32 50 00 00 ck"));
+        QCOMPARE(p.arrow(9, false), fd("FD 09 88 6A 1E 32 50 00 00 ck"));
         QCOMPARE(p.changedRows([] {}), QList<int>{9});
         QCOMPARE(p.shown(9), QString("0.0km/h"));
-        QCOMPARE(p.tapped(6, true), fd("FD 09 88 6A 1D 32 50 00 00 ck"));
-        QCOMPARE(p.tapped(2, false), fd("FD 09 88 7A 1D 32 50 00 00 ck"));
-        QCOMPARE(p.tapped(0, true), fd("FD 09 88 3A 1D 32 50 00 00 ck"));
-        QCOMPARE(p.tapped(10, true), fd("FD 09 88 3A 1D 32 50 00 00 ck"));
+        QCOMPARE(p.arrow(6, true), fd("FD 09 88 6A 1D 32 50 00 00 ck"));
+        QCOMPARE(p.arrow(2, false), fd("FD 09 88 7A 1D 32 50 00 00 ck"));
+        QCOMPARE(p.arrow(0, true), fd("FD 09 88 3A 1D 32 50 00 00 ck"));
+        QCOMPARE(p.arrow(10, true), fd("FD 09 88 3A 1D 32 50 00 00 ck"));
     }
 
     // FD 0A 89 50: the six cruising speeds; FD 0A 89 90: the six limits.
@@ -366,14 +353,14 @@ private slots:
         QCOMPARE(p.rows(), 14);
         QCOMPARE(p.shown(11), QString("130.0km/h"));
         QCOMPARE(p.shown(12), QString("pop up"));
-        QCOMPARE(p.tapped(2, false), fd("FD 0A 89 50 1E 28 33 3C 46 50 ck"));
-        QCOMPARE(p.tapped(6, true), fd("FD 0A 89 90 31 3C 46 5A 6E 82 ck"));
-        QCOMPARE(p.tapped(5, false), fd("FD 0A 89 50 1E 28 33 3C 46 51 ck"));
-        QCOMPARE(p.tapped(12, false), QString());
-        QCOMPARE(p.tapped(13, false), QString());
+        QCOMPARE(p.arrow(2, false), fd("FD 0A 89 50 1E 28 33 3C 46 50 ck"));
+        QCOMPARE(p.arrow(6, true), fd("FD 0A 89 90 31 3C 46 5A 6E 82 ck"));
+        QCOMPARE(p.arrow(5, false), fd("FD 0A 89 50 1E 28 33 3C 46 51 ck"));
+        QCOMPARE(p.arrow(12, false), QString());
+        QCOMPARE(p.arrow(13, false), QString());
         buffer().setByte(146, 255);
         p.page()->ondataChanged();
-        QCOMPARE(p.tapped(11, false), fd("FD 0A 89 90 31 3C 46 5A 6E 00 ck"));
+        QCOMPARE(p.arrow(11, false), fd("FD 0A 89 90 31 3C 46 5A 6E 00 ck"));
     }
 
     void settingItems()
@@ -385,7 +372,7 @@ private slots:
         const QStringList expected = {fd("FD 05 80 1F 01 ck"), fd("FD 05 80 20 01 ck"), "", "", "",
                                       fd("FD 05 80 23 01 ck"), fd("FD 05 80 21 01 ck"), fd("FD 05 80 22 01 ck")};
         for (int row = 0; row < 8; ++row)
-            QCOMPARE(p.tapped(row, false), expected.at(row));
+            QCOMPARE(p.arrow(row, false), expected.at(row));
         QCOMPARE(p.changedRows([] { setBytes(150, {0}); }), QList<int>{1});
     }
 
@@ -420,7 +407,7 @@ private slots:
             QVERIFY(!statistics.adjustable(row));
         QCOMPARE(statistics.changedRows([] { buffer().setText(172, "9.9kWh/100km"); setBytes(190, {30}); }),
                  (QList<int>{2, 14}));
-        QCOMPARE(statistics.tapped(14, false), QString());
+        QCOMPARE(statistics.arrow(14, false), QString());
     }
 
     // FD 06 83 01 hi lo: the charging time in minutes; FD 06 83 02: the
@@ -431,11 +418,11 @@ private slots:
         Page87 p(Charging);
         QCOMPARE(p.rows(), 4);
         QCOMPARE(p.shown(3), QString("MAX"));
-        QCOMPARE(p.tapped(0, false), fd("FD 06 83 01 01 95 ck"));
-        QCOMPARE(p.tapped(1, true), fd("FD 06 83 01 01 94 ck"));
-        QCOMPARE(p.tapped(2, true), fd("FD 06 83 02 00 02 ck"));
-        QCOMPARE(p.tapped(3, false), fd("FD 06 83 02 00 02 ck"));
-        QCOMPARE(p.tapped(3, true), fd("FD 06 83 02 00 01 ck"));
+        QCOMPARE(p.arrow(0, false), fd("FD 06 83 01 01 95 ck"));
+        QCOMPARE(p.arrow(1, true), fd("FD 06 83 01 01 94 ck"));
+        QCOMPARE(p.arrow(2, true), fd("FD 06 83 02 00 02 ck"));
+        QCOMPARE(p.arrow(3, false), fd("FD 06 83 02 00 02 ck"));
+        QCOMPARE(p.arrow(3, true), fd("FD 06 83 02 00 01 ck"));
         QCOMPARE(p.changedRows([] {}), (QList<int>{0, 1, 2, 3}));
         QCOMPARE(p.shown(0), QString("6"));
     }
@@ -444,13 +431,8 @@ private slots:
     // car's data while it is in front.
     void extendedViewShowsLivePages()
     {
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
+        ExtendedView v;
+        QVERIFY(v.exposed());
         struct Case
         {
             int rows;
@@ -463,28 +445,21 @@ private slots:
             {34, 0, 90, "Enable when reversing"}, {11, 1, 125, "choose"}, {14, 12, 147, "pop up"}, {8, 0, 149, "ON"},
             {9, 8, 165, "scroll"}, {22, 1, 169, "0~180min"}, {4, 2, 202, "ON"},
         };
-        QCOMPARE(list->model()->rowCount(), cases.size());
+        QCOMPARE(v.list->model()->rowCount(), cases.size());
         for (int index = 0; index < cases.size(); ++index) {
-            const QModelIndex title = list->model()->index(index, 0);
-            list->scrollTo(title);
+            Case const &c = cases.at(index);
             HostSim::clearSentFrames();
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
+            CarExViewBase *stack = v.open(index);
             QVERIFY(stack->isVisible());
             QCOMPARE(stack->currentIndex(), index);
             QVERIFY(!HostSim::sentFrames().isEmpty());
             QCOMPARE(quint8(HostSim::sentFrames().at(0).at(2)), quint8(0x8F));
-            auto *table = stack->currentWidget()->findChild<TableView *>();
-            QVERIFY(table);
-            QCOMPARE(table->model()->rowCount(), cases.at(index).rows);
-            buffer().setByte(cases.at(index).offset, 1);
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(cases.at(index).row, 0).data(DisplayValueRole).toString(),
-                     cases.at(index).shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
+            QVERIFY(v.table());
+            QCOMPARE(v.rows(), c.rows);
+            QCOMPARE(v.shownAfter([&] { buffer().setByte(c.offset, 1); }, c.row), c.shown);
+            v.back();
+            QVERIFY(v.list->isVisible());
         }
-        delete view;
     }
 };
 

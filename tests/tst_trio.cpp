@@ -4,14 +4,9 @@
 // frames that a step on a read-only row sends, byte for byte; and the pages
 // live in the extended view of each member's id.
 
-#include "pagetests.h"
+#include "exviewtests.h"
 
-#include "appframework.h"
-#include "basebar.h"
-#include "exview.h"
-#include "listview.h"
 
-#include <QPointer>
 
 #include <cstring>
 
@@ -66,14 +61,6 @@ Member const &member(int protocol)
     }
     qFatal("no member %d", protocol);
     return memberList().first();
-}
-
-QStringList seventeen(QString const &pattern)
-{
-    QStringList texts;
-    for (int i = 0; i <= 16; ++i)
-        texts << pattern.arg(i, 2, 16, QChar('0'));
-    return texts;
 }
 
 void clearBuffer(int protocol)
@@ -285,7 +272,7 @@ private slots:
         QTest::addColumn<QStringList>("expected");
         const QStringList voice = {"2E 90 02 7D EF ck"};
         const QStringList function = {"2E 90 02 7E 00 ck"};
-        const QStringList vehicle = seventeen("2E 90 02 7D %1 ck");
+        const QStringList vehicle = series("2E 90 02 7D %1 ck", 0, 16);
         for (Member const &m : memberList()) {
             const QString name = QString::number(m.protocol);
             if (m.protocol == 67)
@@ -306,7 +293,7 @@ private slots:
         QTest::newRow("122 index 4") << 122 << 4 << QStringList{"2E 90 02 7D 06 ck"};
         QTest::newRow("67 voice") << 67 << 0 << QStringList{"FD 06 90 7E EF ck ck"};
         QTest::newRow("67 function") << 67 << 1 << QStringList{"FD 06 90 7E 00 ck ck"};
-        QTest::newRow("67 vehicle") << 67 << 2 << seventeen("FD 90 06 7D %1 ck ck");
+        QTest::newRow("67 vehicle") << 67 << 2 << series("FD 90 06 7D %1 ck ck", 0, 16);
     }
     void requests()
     {
@@ -317,7 +304,7 @@ private slots:
         QWidget window;
         CarExViewBase *stack = createPageStack(protocol, &window);
         stack->showIndex(index);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected, protocol)));
+        QCOMPARE(sent(), hexOf(expected, protocol));
     }
 
     // The voice states, the current window and the seat choice, by byte.
@@ -510,7 +497,7 @@ private slots:
         const int before = p.value(row);
         p.step(row, down);
         const QList<QByteArray> sent = HostSim::sentFrames();
-        QCOMPARE(hex(sent), hex(frames(expected, protocol)));
+        QCOMPARE(hex(sent), hexOf(expected, protocol));
         for (QByteArray const &f : sent)
             QCOMPARE(f.size(), protocol == 67 ? 8 : 7);
         // The row waits for the car.
@@ -561,7 +548,7 @@ private slots:
         QVERIFY(HostSim::sentFrames().isEmpty());
 
         p.step(row, down);
-        QCOMPARE(hex(HostSim::sentFrames()), hex(frames(expected, protocol)));
+        QCOMPARE(sent(), hexOf(expected, protocol));
         QCOMPARE(p.shown(row), shownAfter);
         QVERIFY(p.signalled.isEmpty());
     }
@@ -574,13 +561,8 @@ private slots:
         QFETCH(int, protocol);
         Member const &m = member(protocol);
         HostSim::setProtocolId(protocol);
-        HostSim::screen()->show();
-        QPointer<ExView> view =
-            new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1));
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
-        auto *list = view->findChild<ListView *>("listView");
-        BaseBar *bar = view->findChild<BaseBar *>();
+        ExtendedView v;
+        QVERIFY(v.exposed());
         DataBuffer data = HostSim::buffer(protocol);
         struct Case
         {
@@ -598,24 +580,16 @@ private slots:
              [&] { data.setText(m.vehicleOffset + 24, QStringLiteral("88 km/h")); }, "88 km/h"},
         };
         for (Case const &c : cases) {
-            const QModelIndex title = list->model()->index(c.index, 0);
-            list->scrollTo(title);
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(title).center());
-            auto *stack = view->findChild<CarExViewBase *>();
+            CarExViewBase *stack = v.open(c.index);
             QVERIFY(stack->isVisible());
             QCOMPARE(stack->currentIndex(), c.index);
-            auto *page = qobject_cast<CarInfoItem *>(stack->currentWidget());
-            QCOMPARE(page->getTitle(), c.title);
-            auto *table = page->findChild<TableView *>();
-            QVERIFY(table);
-            QVERIFY(table->isVisible());
-            c.change();
-            HostSim::notifyDataChanged();
-            QCOMPARE(table->model()->index(c.row, 0).data(DisplayValueRole).toString(), c.shown);
-            HostSim::pressBarButton(bar, "back");
-            QVERIFY(list->isVisible());
+            QCOMPARE(v.page()->getTitle(), c.title);
+            QVERIFY(v.table());
+            QVERIFY(v.table()->isVisible());
+            QCOMPARE(v.shownAfter(c.change, c.row), c.shown);
+            v.back();
+            QVERIFY(v.list->isVisible());
         }
-        delete view;
     }
 };
 

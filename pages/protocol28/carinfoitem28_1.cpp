@@ -1,19 +1,8 @@
 #include "carinfoitem28_1.h"
 
-#include "canobj.h"
+#include "../shared/climaterows.h"
 #include "frames.h"
 #include "requests.h"
-
-namespace {
-
-// The outside temperature comes with the climate record, as a ready text.
-QVariant outsideTemperature(DataBuffer const &)
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? air->outsideTemperature : QString();
-}
-
-} // namespace
 
 CarInfoItem28_1::CarInfoItem28_1(QString const &title, QWidget *parent)
     : RowPage(title, parent)
@@ -29,7 +18,7 @@ QList<Row> CarInfoItem28_1::rowTable() const
         << Row::choice("Front radar working status", {"close", "open"}).at(37)
         << Row::choice("Park assist system status", {"close", "open"}).at(38)
         << Row::choice("Radar sound state", {"silent", "Vocalize"}).at(39)
-        << Row::text("Ambient temperature information").read(outsideTemperature)
+        << Row::text("Ambient temperature information").read(ClimateRows::outsideTemperature)
         << Row::of(NumberKind, "Screen brightness value", {0, 255}).at(40)
         << Row::of(NumberKind, "Key brightness value", {0, 255}).at(41)
         << Row::choice("PM 2.5 Value in tthe ccar",

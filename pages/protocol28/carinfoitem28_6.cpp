@@ -1,6 +1,6 @@
 #include "carinfoitem28_6.h"
 
-#include "canobj.h"
+#include "../shared/tyrerows.h"
 #include "frames.h"
 #include "requests.h"
 
@@ -8,28 +8,6 @@ namespace {
 
 // The row whose middle opens the tyre panel.
 const int ResetRow = 8;
-
-// Everything on this page comes from the tyre record inside the climate
-// record. Without a record the texts are empty and the choices show nothing.
-TirePressureInformation const *tyres()
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? &air->tirePressure : 0;
-}
-
-template <QString TirePressureInformation::*Pressure>
-QVariant pressure(DataBuffer const &)
-{
-    TirePressureInformation const *record = tyres();
-    return record ? record->*Pressure : QString();
-}
-
-template <int Wheel>
-QVariant wheelStatus(DataBuffer const &)
-{
-    TirePressureInformation const *record = tyres();
-    return record ? int(record->status[Wheel]) : -1;
-}
 
 // The alarm byte to its option: 0, 2, 3, 4 to the first four, anything
 // else to "No display".
@@ -44,9 +22,11 @@ int alarmOption(int alarm)
     }
 }
 
+// Everything on this page comes from the tyre record inside the climate
+// record. Without a record the texts are empty and the choices show nothing.
 QVariant alarmType(DataBuffer const &)
 {
-    TirePressureInformation const *record = tyres();
+    TirePressureInformation const *record = TyreRows::record();
     return alarmOption(record ? record->alarm[0] : -1);
 }
 
@@ -66,16 +46,13 @@ CarInfoItem28_6::CarInfoItem28_6(QString const &title, QWidget *parent)
 
 QList<Row> CarInfoItem28_6::rowTable() const
 {
+    using namespace TyreRows;
     typedef TirePressureInformation Tyres;
-    return QList<Row>()
-        << Row::text("Left front tire pressure value").read(pressure<&Tyres::frontLeftPressure>)
-        << Row::text("Right front tire pressure value").read(pressure<&Tyres::frontRightPressure>)
-        << Row::text("Left rear tire pressure value").read(pressure<&Tyres::rearLeftPressure>)
-        << Row::text("Right rear tire pressure value").read(pressure<&Tyres::rearRightPressure>)
-        << Row::choice("Front left tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::FrontLeft>)
-        << Row::choice("Front right tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::FrontRight>)
-        << Row::choice("Rear left tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::RearLeft>)
-        << Row::choice("Rear right tire", {"normal", "abnormal"}).read(wheelStatus<Tyres::RearRight>)
+    return pressureRows()
+        << Row::choice("Front left tire", {"normal", "abnormal"}).read(status<Tyres::FrontLeft>)
+        << Row::choice("Front right tire", {"normal", "abnormal"}).read(status<Tyres::FrontRight>)
+        << Row::choice("Rear left tire", {"normal", "abnormal"}).read(status<Tyres::RearLeft>)
+        << Row::choice("Rear right tire", {"normal", "abnormal"}).read(status<Tyres::RearRight>)
         << Row::text("TPMS").read(resetText)
         << Row::choice("alarm type", {"Tire pressure is normal", "Please check tire pressure",
                                       "Tire pressure is too low", "Tire loss", "No display"}).read(alarmType);

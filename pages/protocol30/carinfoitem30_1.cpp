@@ -1,30 +1,13 @@
 #include "pages30.h"
 
-#include "canobj.h"
+#include "../shared/tyrerows.h"
 #include "frames.h"
-
-namespace {
-
-// The pressures come from the tyre record inside the climate record, as
-// ready texts. Without a record they are empty.
-template <QString TirePressureInformation::*Pressure>
-QVariant pressure(DataBuffer const &)
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? air->tirePressure.*Pressure : QString();
-}
-
-} // namespace
 
 QList<Row> CarInfoItem30_1::rowTable() const
 {
-    typedef TirePressureInformation Tyres;
-    return QList<Row>()
-        << Row::text("Left front tire pressure value").read(pressure<&Tyres::frontLeftPressure>)
-        << Row::text("Right front tire pressure value").read(pressure<&Tyres::frontRightPressure>)
-        << Row::text("Left rear tire pressure value").read(pressure<&Tyres::rearLeftPressure>)
-        << Row::text("Right rear tire pressure value").read(pressure<&Tyres::rearRightPressure>)
-        << Row::text("Spare tire").read(pressure<&Tyres::sparePressure>)
+    // The pressures come from the tyre record inside the climate record.
+    return TyreRows::pressureRows()
+        << Row::text("Spare tire").read(TyreRows::pressure<TyreRows::Spare>)
         << Row::text("Instantaneous power consumption").textAt(144)
         << Row::text("One way distance").textAt(148)
         << Row::choice("TPMS status information", {"No TPMS device", "Have TPMS equipment"}).at(152)

@@ -2,7 +2,8 @@
 
 #include "pages37.h"
 
-#include "airdata.h"
+#include "../shared/climaterows.h"
+#include "../shared/tyrerows.h"
 #include "canobj.h"
 #include "carbodydata.h"
 #include "datasavecontrol.h"
@@ -33,12 +34,6 @@ int orientationCode(int value) { return value == 0 ? 3 : 4; }
 QByteArray panoramaFrame(int, int value) { return Frames::make2E(0x99, {value, 0, 0, 0, 0, 0}); }
 QByteArray languageFrame(int, int value) { return Frames::make2E(0x87, {value}); }
 QByteArray warningVolumeFrame(int, int value) { return Frames::make2E(0x88, {value}); }
-
-QVariant outsideTemperature(DataBuffer const &)
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? air->outsideTemperature : QString();
-}
 
 // The small light's switch is a signed byte: a negative one (no such
 // light) shows as off.
@@ -94,15 +89,6 @@ QList<QVariant> atmosphereColours()
 // The ventilation mode goes out as 20, 21 or 22.
 int ventilationCode(int value) { return value + 20; }
 
-// --- 37_8 -----------------------------------------------------------------
-
-template <QString TirePressureInformation::*Pressure>
-QVariant pressure(DataBuffer const &)
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? air->tirePressure.*Pressure : QString();
-}
-
 } // namespace
 
 // --- 37_1 -----------------------------------------------------------------
@@ -129,7 +115,7 @@ QList<Row> CarInfoItem37_1::rowTable() const
          << Row::text("Speed signal").textAt(92)
          << Row::choice("Reversing radar switch information", {"Parking sensor off", "Reversing radar is on"})
                 .at(96)
-         << Row::text("Outdoor temperature").read(outsideTemperature)
+         << Row::text("Outdoor temperature").read(ClimateRows::outsideTemperature)
          << Row::choice("Small light switch indication", {"OFF", "ON"}).read(smallLightSwitch)
          << Row::of(NumberKind, "Small light brightness level", {0, 11}).read(smallLightLevel);
     // Rows 15 to 22: the two trip computers, four texts each.
@@ -342,10 +328,5 @@ QList<Row> CarInfoItem37_6::rowTable() const
 
 QList<Row> CarInfoItem37_8::rowTable() const
 {
-    typedef TirePressureInformation Tyres;
-    return QList<Row>()
-        << Row::text("Left front tire pressure value").read(pressure<&Tyres::frontLeftPressure>)
-        << Row::text("Right front tire pressure value").read(pressure<&Tyres::frontRightPressure>)
-        << Row::text("Left rear tire pressure value").read(pressure<&Tyres::rearLeftPressure>)
-        << Row::text("Right rear tire pressure value").read(pressure<&Tyres::rearRightPressure>);
+    return TyreRows::pressureRows();
 }

@@ -1,6 +1,6 @@
 #include "pages48.h"
 
-#include "airdata.h"
+#include "../shared/climaterows.h"
 #include "canobj.h"
 #include "carbodydata.h"
 
@@ -45,14 +45,7 @@ QList<int> codes(int first, int second)
     return QList<int>() << first << second;
 }
 
-// The read-outs from the climate and body records; without a record they
-// are empty or 0.
-QVariant outsideTemperature(DataBuffer const &)
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? air->outsideTemperature : QString();
-}
-
+// The read-outs from the body record; without a record they are 0.
 CarbodyData const *bodyRecord()
 {
     return CanObj::instance()->getCarbodyData();
@@ -130,7 +123,7 @@ QList<Row> CarInfoItem48_8::rowTable() const
         << state(22, "Ambient light settings", {"OFF", "ON"}, codes(0x14, 0x13))
         << own(23, 0xA6, "Buzzer alarm", {"OFF", "ON"})
         << own(24, 0xA5, "Rain sensor", {"OFF", "ON"})
-        << Row::text("Ambient temperature information").read(outsideTemperature)
+        << Row::text("Ambient temperature information").read(ClimateRows::outsideTemperature)
         << Row::of(NumberKind, "Backlight adjustment", {0, 255}).read(backlight)
         << Row::of(DistanceKind, "driven distance", {0, 0xFFFFFF}).read(drivenDistance).unitBy(distanceUnit)
         << Row::of(DistanceKind, "recharge mileage", {0, 65535}).read(rechargeMileage).unitBy(distanceUnit)

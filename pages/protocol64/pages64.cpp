@@ -157,21 +157,11 @@ QList<Row> CarInfoItem64_5::rowTable() const
 {
     using namespace TyreRows;
     typedef TirePressureInformation Tyres;
-    // The temperatures come as bytes without a stated scale: shown as they are.
-    const QList<QVariant> temperatureRange = {0, 255};
-    QList<Row> rows;
-    rows << Row::text("Left front tire pressure value").read(pressure<Tyres::FrontLeft>)
-         << Row::text("Right front tire pressure value").read(pressure<Tyres::FrontRight>)
-         << Row::text("Left rear tire pressure value").read(pressure<Tyres::RearLeft>)
-         << Row::text("Right rear tire pressure value").read(pressure<Tyres::RearRight>)
-         << Row::of(TemperatureKind, "Front left tire pressure temperature", temperatureRange)
-                .read(temperature<Tyres::FrontLeft>)
-         << Row::of(TemperatureKind, "Front right tire temperature", temperatureRange)
-                .read(temperature<Tyres::FrontRight>)
-         << Row::of(TemperatureKind, "Rear left tire temperature", temperatureRange)
-                .read(temperature<Tyres::RearLeft>)
-         << Row::of(TemperatureKind, "Rear right tire temperature", temperatureRange)
-                .read(temperature<Tyres::RearRight>);
+    QList<Row> rows = pressureRows();
+    rows << temperatureRow("Front left tire pressure temperature", temperature<Tyres::FrontLeft>)
+         << temperatureRow("Front right tire temperature", temperature<Tyres::FrontRight>)
+         << temperatureRow("Rear left tire temperature", temperature<Tyres::RearLeft>)
+         << temperatureRow("Rear right tire temperature", temperature<Tyres::RearRight>);
     QList<QByteArray> const &titles = warningTitles();
     for (int w = 0; w < titles.size(); ++w)
         rows << Row::choice(titles.at(w).constData(), {"none", "have"}).at(FirstWarning + w);

@@ -1,33 +1,13 @@
 #include "carinfoitem67_12.h"
 
-#include "airdata.h"
-#include "canobj.h"
+#include "../shared/tyrerows.h"
 #include "family67.h"
 
 namespace {
 
-TirePressureInformation const *tyres()
-{
-    AirData const *air = CanObj::instance()->getAirData();
-    return air ? &air->tirePressure : 0;
-}
-
-// Bytes 108 to 120 of the climate record.
-template <QString TirePressureInformation::*Pressure>
-QVariant pressure(DataBuffer const &)
-{
-    TirePressureInformation const *record = tyres();
-    return record ? record->*Pressure : QString();
-}
-
-// Bytes 139 to 142 of the climate record; 40 is 0 degrees. Without a
-// record, the zero point.
-template <int Wheel>
-QVariant temperature(DataBuffer const &)
-{
-    TirePressureInformation const *record = tyres();
-    return record ? int(record->temperature[Wheel]) : 40;
-}
+// Pressures from bytes 108 to 120 of the climate record, temperatures from
+// bytes 139 to 142 with 40 for 0 degrees: without a record, the zero point.
+const int ZeroDegrees = 40;
 
 // The sensor states would lie at bytes 176 to 195, beyond the end of the
 // climate record: nothing is read there, and the rows show no option.
@@ -36,9 +16,10 @@ QVariant beyondRecord(DataBuffer const &)
     return -1;
 }
 
-Row temperatureRow(const char *title, Row::Reader reader)
+// A temperature counted from the zero point.
+Row shiftedTemperatureRow(const char *title, Row::Reader reader)
 {
-    return Row::of(TemperatureKind, title, {0, 40, 255}).read(reader);
+    return Row::of(TemperatureKind, title, {0, ZeroDegrees, 255}).read(reader);
 }
 
 Row stateRow(const char *title, std::initializer_list<const char *> options)
@@ -64,16 +45,13 @@ CarInfoItem67_12::CarInfoItem67_12(QString const &title, QWidget *parent)
 
 QList<Row> CarInfoItem67_12::rowTable() const
 {
+    using namespace TyreRows;
     typedef TirePressureInformation Tyres;
-    return Family67::numbered(QList<Row>()
-        << Row::text("Left front tire pressure value").read(pressure<&Tyres::frontLeftPressure>)
-        << Row::text("Right front tire pressure value").read(pressure<&Tyres::frontRightPressure>)
-        << Row::text("Left rear tire pressure value").read(pressure<&Tyres::rearLeftPressure>)
-        << Row::text("Right rear tire pressure value").read(pressure<&Tyres::rearRightPressure>)
-        << temperatureRow("Temperature-front reft", temperature<Tyres::FrontLeft>)
-        << temperatureRow("Temperature-front right", temperature<Tyres::FrontRight>)
-        << temperatureRow("Temperature-back left", temperature<Tyres::RearLeft>)
-        << temperatureRow("Temperature-back right", temperature<Tyres::RearRight>)
+    return Family67::numbered(pressureRows()
+        << shiftedTemperatureRow("Temperature-front reft", temperature<Tyres::FrontLeft, ZeroDegrees>)
+        << shiftedTemperatureRow("Temperature-front right", temperature<Tyres::FrontRight, ZeroDegrees>)
+        << shiftedTemperatureRow("Temperature-back left", temperature<Tyres::RearLeft, ZeroDegrees>)
+        << shiftedTemperatureRow("Temperature-back right", temperature<Tyres::RearRight, ZeroDegrees>)
         << sensorFault("Rear right sensor fault status")
         << sensorFault("Rear left sensor fault status")
         << sensorFault("Front right sensor fault status")

@@ -192,21 +192,15 @@ QList<Row> CarInfoItem72_8::rowTable() const
 {
     using namespace TyreRows;
     typedef TirePressureInformation Tyres;
-    // The temperatures come as bytes without a stated scale: shown as they are.
-    const QList<QVariant> temperatureRange = {0, 255};
-    return QList<Row>()
-        << Row::text("Left front tire pressure value").read(pressure<Tyres::FrontLeft>)
-        << Row::text("Right front tire pressure value").read(pressure<Tyres::FrontRight>)
-        << Row::text("Left rear tire pressure value").read(pressure<Tyres::RearLeft>)
-        << Row::text("Right rear tire pressure value").read(pressure<Tyres::RearRight>)
+    return pressureRows()
         << Row::choice("Tire pressure front left", {"normal", "abnormal"}).read(status<Tyres::FrontLeft>)
         << Row::choice("Tire pressure front right", {"normal", "abnormal"}).read(status<Tyres::FrontRight>)
         << Row::choice("Tire pressure back left", {"normal", "abnormal"}).read(status<Tyres::RearLeft>)
         << Row::choice("Tire pressure back right", {"normal", "abnormal"}).read(status<Tyres::RearRight>)
-        << Row::of(TemperatureKind, "Temperature-front left", temperatureRange).read(temperature<Tyres::FrontLeft>)
-        << Row::of(TemperatureKind, "Temperature-front right", temperatureRange).read(temperature<Tyres::FrontRight>)
-        << Row::of(TemperatureKind, "Temperature-back left", temperatureRange).read(temperature<Tyres::RearLeft>)
-        << Row::of(TemperatureKind, "Temperature-back right", temperatureRange).read(temperature<Tyres::RearRight>)
+        << temperatureRow("Temperature-front left", temperature<Tyres::FrontLeft>)
+        << temperatureRow("Temperature-front right", temperature<Tyres::FrontRight>)
+        << temperatureRow("Temperature-back left", temperature<Tyres::RearLeft>)
+        << temperatureRow("Temperature-back right", temperature<Tyres::RearRight>)
         << Row::text("reset").id(12);
 }
 
