@@ -339,10 +339,10 @@ void CarInfoItem124_3::onClicke()
     if (index < 0 || !base)
         return;
     const DataBuffer data(base);
-    ButtonSpec const &spec = buttonSpecs[index];
-    switch (spec.action) {
+    ButtonSpec const &button = buttonSpecs[index];
+    switch (button.action) {
     case Command:
-        sendCDDate(static_cast<unsigned char>(spec.code));
+        sendCDDate(static_cast<unsigned char>(button.code));
         break;
     case RepeatToggle:
         sendCDDate(data.byte(RepeatByte) != 0 ? 0x08 : 0x07);
