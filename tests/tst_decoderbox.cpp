@@ -212,6 +212,7 @@ private slots:
     }
 
     void endToEndWithThePlugin();
+    void everyTablePageMovesOnATap();
     void windowSwitchAndFrameLog();
     void galleryOfOneFamily();
 
@@ -271,6 +272,63 @@ void TestDecoderBox::endToEndWithThePlugin()
     QVERIFY(!host.box().isEnabled());
     HostSim::screen()->hide();
     HostSim::reset();
+}
+
+void TestDecoderBox::everyTablePageMovesOnATap()
+{
+    // On every table page of every family, the first row that the box
+    // answers: from its demo value, a tap on the right arrow moves it to the
+    // next value it steps to, as the car would report it.
+    SimulatorHost host;
+    QString error;
+    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QFile file(CATALOGUE_FILE);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonArray families = QJsonDocument::fromJson(file.readAll()).object().value("families").toArray();
+    HostSim::screen()->show();
+    Scenario::Runner runner(host);
+    int pagesTried = 0;
+    QStringList failures;
+    for (QJsonValue const &f : families) {
+        const QJsonObject family = f.toObject();
+        const int protocol = family.value("ids").toArray().first().toInt();
+        const QJsonArray pages = family.value("pages").toArray();
+        for (QJsonValue const &p : pages) {
+            const QJsonObject page = p.toObject();
+            const QJsonArray rows = page.value("rows").toArray();
+            for (int r = 0; r < rows.size(); ++r) {
+                const QJsonObject row = rows.at(r).toObject();
+                const QJsonArray steps = row.value("steps").toArray();
+                if (!row.value("answered").toBool() || steps.size() < 2 || !row.contains("sample"))
+                    continue;
+                const int sample = row.value("sample").toObject().value("value").toInt();
+                int next = sample;
+                for (QJsonValue const &s : steps) {
+                    const int value = s.toObject().value("value").toInt();
+                    if (value > sample && (next == sample || value < next))
+                        next = value;
+                }
+                HostSim::reset();
+                HostSim::setProtocolId(protocol);
+                host.box().writeSamples(protocol);
+                const QString script = QString("protocol %1\ncall showExView\ntap title %2\nbox on\nbox delay 0\n"
+                                               "wait 120\nexpect rowvalue %3 %4\ntap row %3 right\nwait 20\n"
+                                               "expect rowvalue %3 %5\ntap bar home\n")
+                                           .arg(protocol).arg(page.value("index").toInt()).arg(r).arg(sample).arg(next);
+                ++pagesTried;
+                if (!run(runner, script, &error)) {
+                    failures << QString("%1 row %2: %3").arg(page.value("class").toString()).arg(r).arg(error);
+                    run(runner, "tap bar home\n", &error);
+                }
+                break;
+            }
+        }
+    }
+    HostSim::screen()->hide();
+    HostSim::reset();
+    QVERIFY2(pagesTried >= 45, qPrintable(QString::number(pagesTried)));
+    QVERIFY2(failures.isEmpty(), qPrintable(QString::number(pagesTried) + " pages; " + failures.join("\n")));
 }
 
 void TestDecoderBox::windowSwitchAndFrameLog()

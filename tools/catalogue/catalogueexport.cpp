@@ -124,6 +124,8 @@ public:
             data.setByte(w.offset, quint8((data.byte(w.offset) & ~w.mask) | (w.value & w.mask)));
     }
     int shown(int row) const { return m_model->getListData().at(row).value; }
+    // The page reads the buffer anew.
+    void refresh() { m_page->ondataChanged(); }
 
     // The bytes that make the row show value, by the row's own reading of
     // its place; none where the row has no byte or 16-bit place, or no raw
@@ -244,13 +246,15 @@ QJsonObject sourceOf(Row const *spec)
     return source;
 }
 
-// A value that a row shows on the demo screen: the second option, or the
-// middle of the range.
-int sampleValue(ListData const &data)
+// A value that a row shows on the demo screens: a choice as on a zeroed
+// buffer (a choice may be the context of other rows, such as a unit or a
+// mode, and the frames were taken in that context); a number from the
+// middle of its range.
+int sampleValue(ListData const &data, int zeroValue)
 {
     const int n = data.options.size();
     if (data.kind == ChoiceKind)
-        return n > 1 ? 1 : 0;
+        return zeroValue >= 0 && zeroValue < n ? zeroValue : 0;
     if (n >= 2 && data.options.first().type() != QVariant::String)
         return (data.options.first().toInt() + data.options.at(n == 2 || n == 3 ? n - 1 : 1).toInt()) / 2;
     return 1;
@@ -275,7 +279,9 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
 
     if (!data.adjustable || data.kind == TextKind) {
         if (spec && data.kind != TextKind) {
-            const int value = sampleValue(data);
+            runner.fill(0);
+            runner.refresh();
+            const int value = sampleValue(data, runner.shown(index));
             const std::optional<Writes> place = PageRunner::placeFor(*spec, value);
             if (place && runner.shows(index, *place, value))
                 row["sample"] = QJsonObject{{"value", value}, {"writes", toJson(*place)}};
@@ -287,8 +293,10 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     const Row plain = Row::of(data.kind, "", data.options);
     Row const &rule = spec ? *spec : plain;
     runner.fill(0);
+    runner.refresh();
+    const int start = runner.shown(index);
     QMap<int, Transition> reached;
-    QList<int> queue{runner.shown(index)};
+    QList<int> queue{start};
     QSet<int> seen{queue.first()};
     while (!queue.isEmpty() && reached.size() < MaxSteps) {
         const int current = queue.takeFirst();
@@ -307,25 +315,45 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     if (direction)
         row["direction"] = true;
 
+    // Every step on a zeroed buffer first: the bits in which the frames of
+    // the row's values differ carry the value.
+    QMap<int, Capture> captures;
+    QByteArray carriesValue;
+    for (auto it = reached.constBegin(); it != reached.constEnd(); ++it) {
+        const Capture capture = runner.step(index, spec, it.value(), 0x00);
+        captures.insert(it.key(), capture);
+        QByteArray const &first = captures.first().frame;
+        if (carriesValue.isEmpty())
+            carriesValue = QByteArray(first.size(), '\0');
+        if (capture.frame.size() == first.size()) {
+            for (int i = 0; i < first.size(); ++i)
+                carriesValue[i] = char(carriesValue.at(i) | (capture.frame.at(i) ^ first.at(i)));
+        }
+    }
+
     QJsonArray steps;
     QMap<QString, Writes> byPattern;
     for (auto it = reached.constBegin(); it != reached.constEnd(); ++it) {
         const int value = it.key();
-        const Capture capture = runner.step(index, spec, it.value(), 0x00);
+        Capture const &capture = captures[value];
         QJsonObject step{{"value", value}};
         if (capture.frame.isEmpty()) {
             answered = false;
             steps.append(step);
             continue;
         }
-        // Bits that the page copies from the buffer as it stands: they
-        // differ when the same step runs on a buffer of ones.
+        // Bits that the page takes from the buffer as it stands (other rows
+        // of a group, a setting that goes along, copied or packed by
+        // arithmetic): they change when the same step runs on buffers of
+        // other patterns, and don't carry the value.
         QByteArray care(capture.frame.size(), char(0xFF));
-        if (!spec || spec->sendsGroup()) {
-            const Capture ones = runner.step(index, spec, it.value(), 0xFF);
-            if (ones.frame.size() == capture.frame.size()) {
-                for (int i = 0; i < care.size(); ++i)
-                    care[i] = char(~(capture.frame.at(i) ^ ones.frame.at(i)));
+        for (quint8 pattern : {quint8(0xFF), quint8(0x01), quint8(0x55), quint8(0xAA)}) {
+            const Capture other = runner.step(index, spec, it.value(), pattern);
+            if (other.frame.size() != capture.frame.size())
+                continue;
+            for (int i = 0; i < care.size(); ++i) {
+                const int value = i < carriesValue.size() ? quint8(carriesValue.at(i)) : 0;
+                care[i] = char((care.at(i) & ~(capture.frame.at(i) ^ other.frame.at(i))) | value);
             }
         }
         step["frame"] = frameText(capture.frame, care, protocolId);
@@ -370,9 +398,15 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     row["steps"] = steps;
     row["answered"] = answered;
 
-    // The demo value: the middle step that the car can report.
+    // The demo value: for a choice the step to its value on a zeroed
+    // buffer, else the middle step, that the car can report.
+    int first = steps.size() / 2;
+    for (int i = 0; data.kind == ChoiceKind && i < steps.size(); ++i) {
+        if (steps.at(i).toObject().value("value").toInt() == start)
+            first = i;
+    }
     for (int i = 0; i < steps.size(); ++i) {
-        QJsonObject const step = steps.at((steps.size() / 2 + i) % steps.size()).toObject();
+        QJsonObject const step = steps.at((first + i) % steps.size()).toObject();
         if (step.value("shows").toBool()) {
             row["sample"] = QJsonObject{{"value", step.value("value")}, {"writes", step.value("writes")}};
             break;

@@ -23,7 +23,7 @@ namespace CatalogueExport {
 
 // How many steps of one row are followed at most, so that a wide range
 // (a 16-bit value) stays cheap; a row cut there isn't counted as answered.
-const int MaxSteps = 400;
+const int MaxSteps = 4096;
 
 // One page, built on the host's buffer of protocol protocolId (which must be
 // the selected protocol): its title, class and rows. otherIds are further
