@@ -270,6 +270,11 @@ void TestDecoderBox::endToEndWithThePlugin()
              qPrintable(error));
     // Scenarios start with the box off.
     QVERIFY(!host.box().isEnabled());
+    // Without a catalogue the box can't be switched on, and says why.
+    QVERIFY(!host.loadCatalogue(QString(), &error));
+    QVERIFY(!run(runner, "box on\n", &error));
+    QVERIFY2(error.endsWith("expected a decoder box got none: no catalogue file named"), qPrintable(error));
+    QVERIFY(run(runner, "box off\nbox delay 5\n", &error));
     HostSim::screen()->hide();
     HostSim::reset();
 }

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QSaveFile>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -30,8 +31,12 @@ bool save(QString const &path, QByteArray const &content)
 
 int main(int argc, char **argv)
 {
-    // The pages are built as widgets, never shown.
+    // The pages are built as widgets, never shown; a build machine may have
+    // no runtime directory, and a private one keeps Qt from warning.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryDir runtime;
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
     QApplication app(argc, argv);
     const QStringList args = app.arguments();
     if (args.size() != 3) {
