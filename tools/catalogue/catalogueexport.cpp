@@ -169,11 +169,11 @@ public:
 
     // Steps the row for real from the transition's value, on a buffer
     // filled with fillByte.
-    Capture step(int row, Row const *spec, Transition const &t, quint8 fillByte)
+    Capture step(int row, Row const *tableRow, Transition const &t, quint8 fillByte)
     {
         fill(fillByte);
-        if (spec && spec->startsStepFromBuffer()) {
-            if (std::optional<Writes> place = placeFor(*spec, t.from))
+        if (tableRow && tableRow->startsStepFromBuffer()) {
+            if (std::optional<Writes> place = placeFor(*tableRow, t.from))
                 apply(*place);
         }
         m_page->ondataChanged();
@@ -221,23 +221,23 @@ QJsonValue optionValue(QVariant const &option)
     return option.toInt();
 }
 
-QJsonObject sourceOf(Row const *spec)
+QJsonObject sourceOf(Row const *tableRow)
 {
     QJsonObject source;
-    if (!spec)
+    if (!tableRow)
         return source;
-    switch (spec->source()) {
+    switch (tableRow->source()) {
     case Row::NoSource:
         break;
     case Row::ByteSource:
-        source = {{"type", "byte"}, {"offset", spec->sourceOffset()}, {"mask", spec->sourceMask()},
-                  {"shift", spec->sourceShift()}};
+        source = {{"type", "byte"}, {"offset", tableRow->sourceOffset()}, {"mask", tableRow->sourceMask()},
+                  {"shift", tableRow->sourceShift()}};
         break;
     case Row::WordSource:
-        source = {{"type", "word"}, {"offset", spec->sourceOffset()}};
+        source = {{"type", "word"}, {"offset", tableRow->sourceOffset()}};
         break;
     case Row::TextSource:
-        source = {{"type", "text"}, {"offset", spec->sourceOffset()}};
+        source = {{"type", "text"}, {"offset", tableRow->sourceOffset()}};
         break;
     case Row::ReaderSource:
         source = {{"type", "reader"}};
@@ -260,9 +260,9 @@ int sampleValue(ListData const &data, int zeroValue)
     return 1;
 }
 
-QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row const *spec, int protocolId)
+QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row const *tableRow, int protocolId)
 {
-    QJsonObject row{{"title", spec ? QString::fromUtf8(spec->title()) : data.title},
+    QJsonObject row{{"title", tableRow ? QString::fromUtf8(tableRow->title()) : data.title},
                     {"kind", data.kind},
                     {"unit", data.unit},
                     {"factor", data.factor},
@@ -273,16 +273,16 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     row["options"] = options;
     if (data.id >= 0)
         row["id"] = data.id;
-    const QJsonObject source = sourceOf(spec);
+    const QJsonObject source = sourceOf(tableRow);
     if (!source.isEmpty())
         row["source"] = source;
 
     if (!data.adjustable || data.kind == TextKind) {
-        if (spec && data.kind != TextKind) {
+        if (tableRow && data.kind != TextKind) {
             runner.fill(0);
             runner.refresh();
             const int value = sampleValue(data, runner.shown(index));
-            const std::optional<Writes> place = PageRunner::placeFor(*spec, value);
+            const std::optional<Writes> place = PageRunner::placeFor(*tableRow, value);
             if (place && runner.shows(index, *place, value))
                 row["sample"] = QJsonObject{{"value", value}, {"writes", toJson(*place)}};
         }
@@ -291,7 +291,7 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
 
     // Every value the row steps to, from what it shows on a zeroed buffer.
     const Row plain = Row::of(data.kind, "", data.options);
-    Row const &rule = spec ? *spec : plain;
+    Row const &rule = tableRow ? *tableRow : plain;
     runner.fill(0);
     runner.refresh();
     const int start = runner.shown(index);
@@ -310,7 +310,7 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
             }
         }
     }
-    const bool direction = spec && spec->sendsDirection();
+    const bool direction = tableRow && tableRow->sendsDirection();
     bool answered = queue.isEmpty() && !direction;
     if (direction)
         row["direction"] = true;
@@ -320,7 +320,7 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     QMap<int, Capture> captures;
     QByteArray carriesValue;
     for (auto it = reached.constBegin(); it != reached.constEnd(); ++it) {
-        const Capture capture = runner.step(index, spec, it.value(), 0x00);
+        const Capture capture = runner.step(index, tableRow, it.value(), 0x00);
         captures.insert(it.key(), capture);
         QByteArray const &first = captures.first().frame;
         if (carriesValue.isEmpty())
@@ -348,7 +348,7 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
         // other patterns, and don't carry the value.
         QByteArray care(capture.frame.size(), char(0xFF));
         for (quint8 pattern : {quint8(0xFF), quint8(0x01), quint8(0x55), quint8(0xAA)}) {
-            const Capture other = runner.step(index, spec, it.value(), pattern);
+            const Capture other = runner.step(index, tableRow, it.value(), pattern);
             if (other.frame.size() != capture.frame.size())
                 continue;
             for (int i = 0; i < care.size(); ++i) {
@@ -365,8 +365,8 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
             step["care"] = hexText(care.left(care.size() - slotCount));
 
         std::optional<Writes> writes;
-        if (!direction && spec)
-            writes = PageRunner::placeFor(*spec, value, payload(capture.frame, protocolId));
+        if (!direction && tableRow)
+            writes = PageRunner::placeFor(*tableRow, value, payload(capture.frame, protocolId));
         if (!direction && !writes && capture.after != capture.before) {
             Writes written;
             for (int i = 0; i < capture.after.size(); ++i) {
@@ -444,9 +444,9 @@ QJsonObject exportPage(CarInfoItem *page, int protocolId, QList<int> const &othe
     PageRunner runner(rowPage, model, protocolId);
     QJsonArray rows;
     const QList<ListData> list = model->getListData();
-    QList<Row> const &specs = rowPage->rows();
+    QList<Row> const &tableRows = rowPage->rows();
     for (int i = 0; i < list.size(); ++i)
-        rows.append(exportRow(runner, i, list.at(i), i < specs.size() ? &specs.at(i) : nullptr, protocolId));
+        rows.append(exportRow(runner, i, list.at(i), i < tableRows.size() ? &tableRows.at(i) : nullptr, protocolId));
     json["rows"] = rows;
     runner.fill(0);
     rowPage->ondataChanged();
