@@ -23,6 +23,7 @@ VehicleState &vehicle()
 void setProtocolId(int id) { vehicle().protocolId = id; }
 
 DataBuffer buffer(int id) { return DataBuffer(CanObj::instance()->getDataPointerById(id)); }
+int bufferSize() { return BufferSize; }
 
 AirData *airData() { return &vehicle().air; }
 CardoorData *cardoorData() { return &vehicle().door; }

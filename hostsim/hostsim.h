@@ -49,6 +49,8 @@ void setProtocolId(int id);
 
 // The data buffer of a protocol, as the plug-in sees it.
 DataBuffer buffer(int id);
+// The size of every data buffer, in bytes.
+int bufferSize();
 
 // The live records that CanObj hands out.
 AirData *airData();

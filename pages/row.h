@@ -46,6 +46,15 @@ public:
         UnlistedStandsForItself // the code itself, taken as an option index
     };
 
+    // Where a row's value lies.
+    enum Source {
+        NoSource,     // none: the row shows 0 or an empty text
+        ByteSource,   // (byte >> shift) & mask
+        WordSource,   // a 16-bit value
+        TextSource,   // a text field
+        ReaderSource  // the row's own reader
+    };
+
     // How a step is kept in range.
     enum Clamp {
         // kind 0: the options; other kinds: first to second option with two,
@@ -135,6 +144,10 @@ public:
     bool startsStepFromBuffer() const { return m_stepFromBuffer; }
     bool sendsDirection() const { return m_directionCodes; }
     bool showsStepImmediately() const { return m_stepAtOnce; }
+    Source source() const { return m_source; }
+    int sourceOffset() const { return m_offset; }
+    int sourceMask() const { return m_mask; }
+    int sourceShift() const { return m_shift; }
 
     // The row's value as the buffer holds it now, after the display map.
     QVariant value(DataBuffer const &buffer) const;
@@ -155,8 +168,6 @@ private:
     int shownNumber(int raw) const;
 
     Row(int kind, const char *title);
-
-    enum Source { NoSource, ByteSource, WordSource, TextSource, ReaderSource };
 
     int m_kind;
     const char *m_title;

@@ -25,6 +25,12 @@ public:
     void createView();
     void ondataChanged();
 
+    // The rows of the table as the first display built them (none before),
+    // and the protocol whose buffer the page reads: for tools that list
+    // what the pages show and send.
+    QList<Row> const &rows() const { return m_rows; }
+    int dataBufferId() const { return bufferId(); }
+
 public slots:
     void onModelReset();
     // leftRight is true for the left arrow (a step down).

@@ -69,7 +69,17 @@ LogPanel::LogPanel(SimulatorHost &host, QWidget *parent)
     connect(clearButton, &QPushButton::clicked, this, &LogPanel::clear);
 
     connect(&host, &SimulatorHost::frameSent, this, &LogPanel::appendFrame);
+    connect(&host.box(), &DecoderBox::unanswered, this, [this, &host](QString const &line) {
+        appendBoxLine(host.elapsed(), line);
+    });
     startTimer(PollMs);
+}
+
+void LogPanel::appendBoxLine(qint64 ms, QString const &line)
+{
+    auto *item = new QTreeWidgetItem(m_frames, {timeText(ms), line, tr("box"), QString()});
+    item->setForeground(1, Qt::darkRed);
+    m_frames->scrollToItem(item);
 }
 
 void LogPanel::appendFrame(qint64 ms, QByteArray const &frame)

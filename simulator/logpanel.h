@@ -22,6 +22,8 @@ protected:
 
 private:
     void appendFrame(qint64 ms, QByteArray const &frame);
+    // A line of the decoder box: a frame it couldn't answer.
+    void appendBoxLine(qint64 ms, QString const &line);
     // The climate commands and debug lines have no signal: they are looked
     // at a few times a second.
     void poll();

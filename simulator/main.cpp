@@ -6,6 +6,7 @@
 #include "debuglog.h"
 #include "demo.h"
 #include "eventpump.h"
+#include "gallery.h"
 #include "mainwindow.h"
 #include "scenariorunner.h"
 #include "simulatorhost.h"
@@ -42,6 +43,11 @@ char const Usage[] =
     "  --window-screenshot FILE  show the window, run the scenario if one is\n"
     "                      given, save the whole window as PNG and quit\n"
     "  --demo DIR          run the demo tour headless, one PNG per step into DIR\n"
+    "  --gallery DIR       open every page of every family with demo data, one PNG\n"
+    "                      per page and an index.html into DIR, headless\n"
+    "  --box-coverage      print how many adjustable rows the decoder box answers\n"
+    "  --catalogue FILE    the decoder box's catalogue (default: the build's,\n"
+    "                      or $CARCONTROL_CATALOGUE_FILE)\n"
     "  --protocol N        start the window on protocol N (default 28)\n"
     "  --plugin FILE       the car control plug-in (default:\n"
     "                      $CARCONTROL_PLUGIN_DIR/libcarcontrol.so)\n"
@@ -57,6 +63,9 @@ struct Options
     QString screenshot;
     QString windowScreenshot;
     QString demoDirectory;
+    QString galleryDirectory;
+    QString catalogue;
+    bool boxCoverage = false;
     QString plugin;
     QString reversePlugin;
     QString platform;
@@ -91,6 +100,14 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
         } else if (arg == QLatin1String("--demo")) {
             if (!value(&options->demoDirectory))
                 return false;
+        } else if (arg == QLatin1String("--gallery")) {
+            if (!value(&options->galleryDirectory))
+                return false;
+        } else if (arg == QLatin1String("--catalogue")) {
+            if (!value(&options->catalogue))
+                return false;
+        } else if (arg == QLatin1String("--box-coverage")) {
+            options->boxCoverage = true;
         } else if (arg == QLatin1String("--plugin")) {
             if (!value(&options->plugin))
                 return false;
@@ -125,6 +142,11 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
         *error = QStringLiteral("--demo runs on its own, without --script or --window");
         return false;
     }
+    if (!options->galleryDirectory.isEmpty() && (!options->script.isEmpty() || options->window
+                                                 || !options->demoDirectory.isEmpty())) {
+        *error = QStringLiteral("--gallery runs on its own, without --script, --window or --demo");
+        return false;
+    }
     return true;
 }
 
@@ -136,6 +158,8 @@ void setDefaultEnvironment()
         qputenv("CARCONTROL_PLUGIN_DIR", SIMULATOR_PLUGIN_DIR);
     if (qEnvironmentVariableIsEmpty("CARCONTROL_RESOURCE_ROOT") && QFileInfo::exists(QStringLiteral(SIMULATOR_RESOURCE_ROOT)))
         qputenv("CARCONTROL_RESOURCE_ROOT", SIMULATOR_RESOURCE_ROOT);
+    if (qEnvironmentVariableIsEmpty("CARCONTROL_CATALOGUE_FILE") && QFileInfo::exists(QStringLiteral(SIMULATOR_CATALOGUE_FILE)))
+        qputenv("CARCONTROL_CATALOGUE_FILE", SIMULATOR_CATALOGUE_FILE);
 }
 
 bool hasDisplay()
@@ -176,7 +200,8 @@ int main(int argc, char *argv[])
     }
 
     const bool headless = !options.window
-            && (!options.script.isEmpty() || !options.demoDirectory.isEmpty() || !options.screenshot.isEmpty());
+            && (!options.script.isEmpty() || !options.demoDirectory.isEmpty() || !options.screenshot.isEmpty()
+                || !options.galleryDirectory.isEmpty() || options.boxCoverage);
     if (!options.platform.isEmpty())
         qputenv("QT_QPA_PLATFORM", options.platform.toLocal8Bit());
     else if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -207,6 +232,22 @@ int main(int argc, char *argv[])
     }
 
     SimulatorHost host;
+    // The decoder box: without its catalogue it stays off, and the
+    // simulator runs all the same.
+    QString boxError;
+    const bool boxReady = host.loadCatalogue(
+        options.catalogue.isEmpty() ? SimulatorHost::defaultCatalogueFile() : options.catalogue, &boxError);
+    if (options.boxCoverage) {
+        if (!boxReady) {
+            printError(QStringLiteral("no decoder box: %1").arg(boxError));
+            return StartFailed;
+        }
+        std::printf("The decoder box answers %d of %d adjustable rows.\n", host.box().answeredRows(),
+                    host.box().adjustableRows());
+        return 0;
+    }
+    if (!boxReady && (!headless || !options.galleryDirectory.isEmpty()))
+        printError(QStringLiteral("the decoder box stays off: %1").arg(boxError));
     const QString plugin = options.plugin.isEmpty() ? SimulatorHost::defaultPluginFile() : options.plugin;
     // A reverse plug-in named on the command line replaces the host's search:
     // when it can't be loaded, reversing shows no picture at all.
@@ -230,6 +271,16 @@ int main(int argc, char *argv[])
         const Scenario::Result result = Demo::runTour(host, options.demoDirectory);
         for (QString const &png : result.screenshots)
             std::printf("%s\n", qPrintable(png));
+        if (result.status != Scenario::Passed)
+            printError(result.message);
+        return result.status;
+    }
+
+    if (!options.galleryDirectory.isEmpty()) {
+        HostSim::screen()->show();
+        const Scenario::Result result = Gallery::write(host, options.galleryDirectory);
+        std::printf("%d pages into %s\n", int(result.screenshots.size()),
+                    qPrintable(QDir(options.galleryDirectory).filePath(QStringLiteral("index.html"))));
         if (result.status != Scenario::Passed)
             printError(result.message);
         return result.status;
@@ -270,6 +321,8 @@ int main(int argc, char *argv[])
     MainWindow window(host);
     if (options.script.isEmpty())
         window.startDemoCar(options.protocol);
+    // In the window the car answers: the box is on.
+    host.box().setEnabled(true);
     window.show();
     int status = Scenario::Passed;
     QTimer::singleShot(0, &window, [&] {

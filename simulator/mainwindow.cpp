@@ -145,6 +145,9 @@ void MainWindow::startDemoCar(int protocolId)
         const Scenario::Result result = Demo::loadData(m_host);
         if (result.status != Scenario::Passed)
             showStatus(result.message, true);
+    } else {
+        // Other cars show values that the catalogue knows their rows take.
+        m_host.box().writeSamples(protocolId);
     }
     m_car->selectProtocol(protocolId);
     reloadPanels();

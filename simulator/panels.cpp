@@ -57,7 +57,9 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     , m_family(new QLabel(this))
     , m_rightDriver(new QCheckBox(tr("Right-hand drive"), this))
     , m_wallpaper(new QCheckBox(tr("Wallpaper"), this))
+    , m_box(new QCheckBox(tr("Decoder box answers"), this))
 {
+    m_box->setObjectName(QStringLiteral("decoderBox"));
     m_protocols->setObjectName(QStringLiteral("protocolPicker"));
     m_family->setObjectName(QStringLiteral("pageStackName"));
     auto *layout = new QVBoxLayout(this);
@@ -72,6 +74,19 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     vehicleForm->addRow(tr("Page stack"), m_family);
     vehicleForm->addRow(m_rightDriver);
     vehicleForm->addRow(m_wallpaper);
+    vehicleForm->addRow(m_box);
+    // The box writes what a setting frame asks into the buffer, as the car
+    // reports it; without its catalogue it can't be switched on.
+    m_box->setChecked(m_host.box().isEnabled());
+    m_box->setEnabled(m_host.box().isLoaded());
+    m_box->setToolTip(m_host.box().isLoaded()
+                          ? tr("Answers %1 of %2 adjustable rows after %3 ms")
+                                .arg(m_host.box().answeredRows())
+                                .arg(m_host.box().adjustableRows())
+                                .arg(m_host.box().delay())
+                          : m_host.catalogueError());
+    connect(m_box, &QCheckBox::toggled, &m_host.box(), &DecoderBox::setEnabled);
+    connect(&m_host.box(), &DecoderBox::enabledChanged, m_box, &QCheckBox::setChecked);
     layout->addWidget(vehicle);
     connect(m_protocols, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
         selectProtocol(m_protocols->itemData(index).toInt());

@@ -43,6 +43,7 @@ private:
     QLabel *m_family;
     QCheckBox *m_rightDriver;
     QCheckBox *m_wallpaper;
+    QCheckBox *m_box;
     int m_shownProtocol = -1;
 };
 

@@ -49,7 +49,9 @@ enum class Kind {
     ExpectMessage, ExpectNoMessage, ExpectCommand, ExpectSaved, ExpectSetting,
     ExpectLabel, ExpectDown, ExpectExists, ExpectMissing, ExpectVisibleText, ExpectLog,
     ExpectNoVisibleText, ExpectEntries, ExpectEntry,
-    Screenshot
+    Screenshot,
+    // The decoder box: on or off (name), its delay (numbers).
+    Box, BoxDelay
 };
 
 // The value of id for the data buffer of the current protocol.

@@ -763,6 +763,15 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
         QString what;
         return in.choice(QStringLiteral("what to drop"), {QStringLiteral("frames")}, &what) && in.end();
     }
+    if (word == QLatin1String("box")) {
+        c->kind = Kind::Box;
+        if (!in.atEnd() && !in.peek().quoted && in.peek().text == QLatin1String("delay")) {
+            in.take();
+            c->kind = Kind::BoxDelay;
+            return in.numberInto(QStringLiteral("milliseconds"), 0, MaxWaitMs, &c->numbers) && in.end();
+        }
+        return in.choice(QStringLiteral("box"), {QStringLiteral("on"), QStringLiteral("off")}, &c->name) && in.end();
+    }
     if (word == QLatin1String("screenshot")) {
         c->kind = Kind::Screenshot;
         QString file;

@@ -34,6 +34,10 @@ void Runner::setTrace(bool trace)
 Result Runner::run(Script const &script)
 {
     Result result;
+    // A scenario speaks for the car itself: the decoder box answers only
+    // where the scenario switches it on.
+    m_host.box().setEnabled(false);
+    m_host.box().setDelay(DecoderBox::DefaultDelayMs);
     for (Command const &command : script.commands) {
         if (m_trace)
             std::fprintf(stderr, "%s:%d: %s\n", qPrintable(script.file), command.line, qPrintable(command.source));
@@ -61,10 +65,28 @@ bool Runner::execute(Command const &command, QString *failure)
         callRoot(command);
     else if (command.kind == Kind::Screenshot)
         held = screenshot(command.texts.value(0), failure);
+    else if (command.kind == Kind::Box || command.kind == Kind::BoxDelay)
+        held = setBox(command, failure);
     else
         held = giveInput(command, failure);
     EventPump::settle();
     return held;
+}
+
+bool Runner::setBox(Command const &command, QString *failure)
+{
+    DecoderBox &box = m_host.box();
+    if (command.kind == Kind::BoxDelay) {
+        box.setDelay(int(command.numbers.value(0)));
+        return true;
+    }
+    const bool on = command.name == QLatin1String("on");
+    box.setEnabled(on);
+    if (on && !box.isEnabled()) {
+        *failure = QStringLiteral("expected a decoder box got none: %1").arg(m_host.catalogueError());
+        return false;
+    }
+    return true;
 }
 
 void Runner::callRoot(Command const &command)

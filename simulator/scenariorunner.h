@@ -51,6 +51,7 @@ public:
 
 private:
     void callRoot(Command const &command);
+    bool setBox(Command const &command, QString *failure);
     bool giveInput(Command const &command, QString *failure);
 
     SimulatorHost &m_host;

@@ -27,6 +27,15 @@ SimulatorHost::SimulatorHost(QObject *parent)
     connect(CanObj::instance(), &CanObj::sendDataToCan, this, [this](QByteArray const &frame) {
         emit frameSent(m_clock.elapsed(), frame);
     });
+    // The box hears a frame once it is on its way, after whoever logs it.
+    connect(this, &SimulatorHost::frameSent, &m_box, [this](qint64, QByteArray const &frame) {
+        m_box.receive(frame);
+    }, Qt::QueuedConnection);
+    // What the box can't answer goes to the debug lines too, where
+    // scenarios look for it.
+    connect(&m_box, &DecoderBox::unanswered, this, [](QString const &line) {
+        qDebug("[DecoderBox] %s", qPrintable(line));
+    });
 }
 
 SimulatorHost::~SimulatorHost()
@@ -157,6 +166,39 @@ QList<QPair<QString, QString> > SimulatorHost::pendingCommands() const
 {
     const auto commands = HostSim::climateCommands();
     return commands.mid(qMin(m_commandsConsumed, commands.size()));
+}
+
+qint64 SimulatorHost::elapsed() const
+{
+    return m_clock.elapsed();
+}
+
+QString SimulatorHost::defaultCatalogueFile()
+{
+    return qEnvironmentVariable("CARCONTROL_CATALOGUE_FILE");
+}
+
+DecoderBox &SimulatorHost::box()
+{
+    return m_box;
+}
+
+bool SimulatorHost::loadCatalogue(QString const &file, QString *error)
+{
+    if (file.isEmpty()) {
+        m_catalogueError = QStringLiteral("no catalogue file named");
+        m_box.load(QJsonObject(), nullptr);
+    } else if (m_box.load(file, &m_catalogueError)) {
+        m_catalogueError.clear();
+        return true;
+    }
+    *error = m_catalogueError;
+    return false;
+}
+
+QString SimulatorHost::catalogueError() const
+{
+    return m_catalogueError;
 }
 
 void SimulatorHost::consumeCommand()

@@ -18,6 +18,7 @@
 #include <QString>
 #include <QVariantList>
 
+#include "decoderbox.h"
 #include "screenprobe.h"
 #include "userinput.h"
 
@@ -62,6 +63,20 @@ public:
     void dropFrames();
     QList<QPair<QString, QString> > pendingCommands() const;
     void consumeCommand();
+    // ms since the host started.
+    qint64 elapsed() const;
+
+    // --- The decoder box ---------------------------------------------------------
+
+    // The exported catalogue that the build writes, unless the environment
+    // variable CARCONTROL_CATALOGUE_FILE names another.
+    static QString defaultCatalogueFile();
+    // The box hears every frame the plug-in sends. Off until switched on.
+    DecoderBox &box();
+    // Loads the box's catalogue. False, with the reason in *error (also kept
+    // as catalogueError()): the box then stays off.
+    bool loadCatalogue(QString const &file, QString *error);
+    QString catalogueError() const;
 
 signals:
     // A frame went to the decoder box; ms since the host started.
@@ -75,6 +90,8 @@ private:
     QElapsedTimer m_clock;
     int m_framesConsumed = 0;
     int m_commandsConsumed = 0;
+    DecoderBox m_box;
+    QString m_catalogueError = QStringLiteral("no catalogue loaded");
 };
 
 #endif // SIMULATORHOST_H

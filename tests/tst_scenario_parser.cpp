@@ -303,6 +303,15 @@ void TestScenarioParser::inputCommands()
     QCOMPARE(c.kind, Kind::LongPress);
     QCOMPARE(c.name, QString("button"));
     QCOMPARE(parsed("wait 150").numbers, numbers({150}));
+
+    // The decoder box: on, off, and its delay.
+    c = parsed("box on");
+    QCOMPARE(c.kind, Kind::Box);
+    QCOMPARE(c.name, QString("on"));
+    QCOMPARE(parsed("box off").name, QString("off"));
+    c = parsed("box delay 0x20");
+    QCOMPARE(c.kind, Kind::BoxDelay);
+    QCOMPARE(c.numbers, numbers({32}));
 }
 
 void TestScenarioParser::expectations()
@@ -399,6 +408,10 @@ void TestScenarioParser::malformedLines_data()
     QTest::newRow("down state") << "expect down x 2" << "state 2 is not one of";
     QTest::newRow("drop what") << "drop rows" << "is not one of frames";
     QTest::newRow("screenshot empty") << "screenshot \"\"" << "empty file name";
+    QTest::newRow("box state") << "box maybe" << "is not one of on";
+    QTest::newRow("box delay negative") << "box delay -5" << "outside 0..";
+    QTest::newRow("box delay missing") << "box delay" << "milliseconds missing";
+    QTest::newRow("box on and more") << "box on 5" << "5";
     QTest::newRow("quote") << "text 44 \"open" << "unterminated quote";
 }
 

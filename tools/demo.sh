@@ -2,7 +2,8 @@
 # The main job: the head-unit simulator with the plug-in's screens. With a
 # display it opens the simulator's window on the demo car; without one, or
 # when the window can't open there, it runs the demo tour headless, writes
-# one PNG per step into BUILD/demo/ and prints their paths.
+# one PNG per step into BUILD/demo/ and prints their paths. Every page of
+# every family, as a contact sheet: headunit-sim --gallery DIR.
 set -eu
 build=$(cd "${1:-build}" && pwd)
 sim="$build/simulator/headunit-sim"
@@ -17,4 +18,5 @@ fi
 out="$build/demo"
 mkdir -p "$out"
 rm -f "$out"/*.png
+echo "demo: every page of every family: $sim --gallery $build/gallery" >&2
 exec "$sim" --platform offscreen --demo "$out"

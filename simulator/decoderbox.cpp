@@ -1,0 +1,278 @@
+#include "decoderbox.h"
+
+#include "canobj.h"
+#include "hostsim.h"
+#include "scenario.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStringList>
+#include <QTimer>
+
+namespace {
+
+// The checksum's place: the last two bytes of an 0xFD frame on protocol 67,
+// the last byte elsewhere.
+int checksumBytes(QByteArray const &frame, int protocolId)
+{
+    return quint8(frame.at(0)) == 0xFD && protocolId == 67 ? 2 : 1;
+}
+
+// A request for a data group: 2E 90 ..., FD N 90 ..., FD N 8F ..., and the
+// one request with length and command swapped, FD 90 N ....
+bool isRequest(QByteArray const &frame)
+{
+    const quint8 header = quint8(frame.at(0));
+    if (header == 0x2E)
+        return quint8(frame.at(1)) == 0x90;
+    return header == 0xFD
+        && (quint8(frame.at(2)) == 0x90 || quint8(frame.at(2)) == 0x8F || quint8(frame.at(1)) == 0x90);
+}
+
+// "2E A8 02 01 0A ck" into bytes and the bits that must match ("??" none).
+bool parseFrame(QString const &text, QByteArray *bytes, QByteArray *care)
+{
+    for (QString const &token : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        if (token == QLatin1String("ck"))
+            continue;
+        if (token == QLatin1String("??")) {
+            bytes->append('\0');
+            care->append('\0');
+            continue;
+        }
+        bool ok = false;
+        const int byte = token.toInt(&ok, 16);
+        if (!ok || byte < 0 || byte > 0xFF)
+            return false;
+        bytes->append(char(byte));
+        care->append(char(0xFF));
+    }
+    return bytes->size() >= 2;
+}
+
+} // namespace
+
+DecoderBox::DecoderBox(QObject *parent)
+    : QObject(parent)
+{
+}
+
+bool DecoderBox::load(QString const &file, QString *error)
+{
+    QFile input(file);
+    if (!input.open(QIODevice::ReadOnly)) {
+        *error = QStringLiteral("%1: %2").arg(file, input.errorString());
+        load(QJsonObject(), nullptr);
+        return false;
+    }
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(input.readAll(), &parseError);
+    if (!document.isObject()) {
+        *error = QStringLiteral("%1: not a catalogue (%2)").arg(file, parseError.errorString());
+        load(QJsonObject(), nullptr);
+        return false;
+    }
+    QString reason;
+    if (!load(document.object(), &reason)) {
+        *error = QStringLiteral("%1: %2").arg(file, reason);
+        return false;
+    }
+    return true;
+}
+
+bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
+{
+    m_families.clear();
+    m_familyOfId.clear();
+    m_adjustable = m_answered = 0;
+    const QJsonArray families = catalogue.value(QLatin1String("families")).toArray();
+    if (families.isEmpty()) {
+        if (error)
+            *error = QStringLiteral("no page families in the catalogue");
+        setEnabled(false);
+        return false;
+    }
+    for (QJsonValue const &f : families) {
+        const QJsonObject familyJson = f.toObject();
+        Family family;
+        for (QJsonValue const &id : familyJson.value(QLatin1String("ids")).toArray()) {
+            family.ids.append(id.toInt());
+            m_familyOfId.insert(id.toInt(), m_families.size());
+        }
+        for (QJsonValue const &p : familyJson.value(QLatin1String("pages")).toArray()) {
+            const QJsonObject page = p.toObject();
+            const int bufferId = page.value(QLatin1String("buffer")).toInt();
+            for (QJsonValue const &r : page.value(QLatin1String("rows")).toArray()) {
+                const QJsonObject row = r.toObject();
+                auto writesOf = [](QJsonArray const &array) {
+                    QList<Write> writes;
+                    for (QJsonValue const &w : array) {
+                        const QJsonArray write = w.toArray();
+                        const int offset = write.at(0).toInt(-1);
+                        if (write.size() == 3 && offset >= 0 && offset < HostSim::bufferSize())
+                            writes.append(Write{offset, quint8(write.at(1).toInt()), quint8(write.at(2).toInt())});
+                    }
+                    return writes;
+                };
+                const QJsonObject sample = row.value(QLatin1String("sample")).toObject();
+                const QJsonObject source = row.value(QLatin1String("source")).toObject();
+                if (!sample.isEmpty())
+                    family.samples.append(Sample{bufferId, writesOf(sample.value(QLatin1String("writes")).toArray()), -1, QString()});
+                else if (source.value(QLatin1String("type")).toString() == QLatin1String("text"))
+                    family.samples.append(Sample{bufferId, {}, source.value(QLatin1String("offset")).toInt(),
+                                                 row.value(QLatin1String("title")).toString()});
+                if (!row.value(QLatin1String("adjustable")).toBool())
+                    continue;
+                ++m_adjustable;
+                if (row.value(QLatin1String("answered")).toBool())
+                    ++m_answered;
+                for (QJsonValue const &s : row.value(QLatin1String("steps")).toArray()) {
+                    const QJsonObject step = s.toObject();
+                    if (!step.value(QLatin1String("shows")).toBool())
+                        continue;
+                    Answer answer;
+                    answer.bufferId = bufferId;
+                    if (!parseFrame(step.value(QLatin1String("frame")).toString(), &answer.bytes, &answer.care))
+                        continue;
+                    const QByteArray care = QByteArray::fromHex(step.value(QLatin1String("care")).toString().toLatin1());
+                    if (care.size() == answer.care.size())
+                        answer.care = care;
+                    answer.writes = writesOf(step.value(QLatin1String("writes")).toArray());
+                    family.byPrefix[answer.bytes.left(3)].append(family.answers.size());
+                    family.answers.append(answer);
+                }
+            }
+        }
+        m_families.append(family);
+    }
+    return true;
+}
+
+bool DecoderBox::isLoaded() const
+{
+    return !m_families.isEmpty();
+}
+
+void DecoderBox::setEnabled(bool enabled)
+{
+    enabled = enabled && isLoaded();
+    if (enabled == m_enabled)
+        return;
+    m_enabled = enabled;
+    emit enabledChanged(enabled);
+}
+
+bool DecoderBox::isEnabled() const
+{
+    return m_enabled;
+}
+
+void DecoderBox::setDelay(int ms)
+{
+    m_delay = qMax(0, ms);
+}
+
+int DecoderBox::delay() const
+{
+    return m_delay;
+}
+
+int DecoderBox::adjustableRows() const
+{
+    return m_adjustable;
+}
+
+int DecoderBox::answeredRows() const
+{
+    return m_answered;
+}
+
+bool DecoderBox::writeSamples(int protocolId) const
+{
+    if (!m_familyOfId.contains(protocolId))
+        return false;
+    for (Sample const &sample : m_families.at(m_familyOfId.value(protocolId)).samples) {
+        DataBuffer buffer = HostSim::buffer(sample.bufferId ? sample.bufferId : protocolId);
+        for (Write const &w : sample.writes)
+            buffer.setByte(w.offset, quint8((buffer.byte(w.offset) & ~w.mask) | (w.value & w.mask)));
+        if (sample.textOffset >= 0 && sample.textOffset + 4 <= HostSim::bufferSize())
+            buffer.setText(sample.textOffset, sample.text);
+    }
+    return true;
+}
+
+QList<DecoderBox::Answer> DecoderBox::matches(Family const &family, QByteArray const &bytes) const
+{
+    QList<Answer> found;
+    for (int index : family.byPrefix.value(bytes.left(3))) {
+        Answer const &answer = family.answers.at(index);
+        if (answer.bytes.size() != bytes.size())
+            continue;
+        bool same = true;
+        for (int i = 0; same && i < bytes.size(); ++i)
+            same = ((answer.bytes.at(i) ^ bytes.at(i)) & answer.care.at(i)) == 0;
+        if (same)
+            found.append(answer);
+    }
+    return found;
+}
+
+void DecoderBox::receive(QByteArray const &frame)
+{
+    if (!m_enabled)
+        return;
+    const QString text = frame.isEmpty() ? QStringLiteral("(empty)") : Scenario::hex(frame);
+    auto refuse = [&](QString const &reason) {
+        emit unanswered(QStringLiteral("no answer: %1 (%2)").arg(text, reason));
+    };
+    if (frame.size() < 4) {
+        refuse(frame.isEmpty() ? QStringLiteral("empty frame") : QStringLiteral("too short"));
+        return;
+    }
+    const quint8 header = quint8(frame.at(0));
+    if (header != 0x2E && header != 0xFD) {
+        refuse(QStringLiteral("unknown header"));
+        return;
+    }
+    // The box checks the checksum by the same rule as the host fills it.
+    QByteArray sealed = frame;
+    CanObj::autoCalculateChecksum(sealed);
+    if (sealed != frame) {
+        refuse(QStringLiteral("bad checksum"));
+        return;
+    }
+    if (isRequest(frame)) {
+        answer(frame, QList<Answer>());
+        return;
+    }
+    const int protocolId = CanObj::id();
+    if (!m_familyOfId.contains(protocolId)) {
+        refuse(QStringLiteral("protocol %1 has no pages").arg(protocolId));
+        return;
+    }
+    const QByteArray bytes = frame.left(frame.size() - checksumBytes(frame, protocolId));
+    const QList<Answer> found = matches(m_families.at(m_familyOfId.value(protocolId)), bytes);
+    if (found.isEmpty()) {
+        refuse(QStringLiteral("unknown frame"));
+        return;
+    }
+    answer(frame, found);
+}
+
+void DecoderBox::answer(QByteArray const &frame, QList<Answer> const &answers)
+{
+    const int protocolId = CanObj::id();
+    QTimer::singleShot(m_delay, this, [this, frame, answers, protocolId] {
+        // The car changed protocol meanwhile: the answer is stale.
+        if (!m_enabled || CanObj::id() != protocolId)
+            return;
+        for (Answer const &answer : answers) {
+            DataBuffer buffer = HostSim::buffer(answer.bufferId ? answer.bufferId : protocolId);
+            for (Write const &w : answer.writes)
+                buffer.setByte(w.offset, quint8((buffer.byte(w.offset) & ~w.mask) | (w.value & w.mask)));
+        }
+        HostSim::notifyDataChanged();
+        emit answered(frame);
+    });
+}

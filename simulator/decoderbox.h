@@ -1,0 +1,107 @@
+#ifndef DECODERBOX_H
+#define DECODERBOX_H
+
+// The decoder box of the simulated car. It knows the frames of every page
+// from the exported catalogue (tools/catalogue) and answers them as the box
+// and the car do on the bench: a setting frame, some time later, becomes the
+// new value in the data buffer and the "canbus" module's dataChanged(); a
+// request frame becomes dataChanged() alone. A frame with a wrong checksum,
+// of a form the catalogue doesn't know, empty or too short, is logged and
+// never answered. The box knows nothing of the plug-in beyond the frames
+// it is given.
+
+#include <QByteArray>
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+class DecoderBox : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr int DefaultDelayMs = 50;
+
+    explicit DecoderBox(QObject *parent = nullptr);
+
+    // Reads an exported catalogue. False, with the reason in *error, for a
+    // missing or malformed file; the box then knows no frames and stays off.
+    bool load(QString const &file, QString *error);
+    bool load(QJsonObject const &catalogue, QString *error);
+    bool isLoaded() const;
+
+    // Off, the box lets every frame pass unanswered and logs nothing. It
+    // can't be switched on without a catalogue.
+    void setEnabled(bool enabled);
+    bool isEnabled() const;
+    // The time from a frame to its answer.
+    void setDelay(int ms);
+    int delay() const;
+
+    // The adjustable rows of the catalogue, and how many of them the box
+    // answers.
+    int adjustableRows() const;
+    int answeredRows() const;
+
+    // The demo data of a protocol: for every row where the catalogue has
+    // one, the bytes that make it show a valid value, written into the
+    // buffer. False for a protocol the catalogue doesn't know.
+    bool writeSamples(int protocolId) const;
+
+public slots:
+    // A frame to the decoder box: checked, and answered if the box knows it.
+    void receive(QByteArray const &frame);
+
+signals:
+    void enabledChanged(bool enabled);
+    // A frame the box couldn't answer: "no answer: 2E ... (reason)".
+    void unanswered(QString const &line);
+    // The box wrote an answer into the buffer and signalled it.
+    void answered(QByteArray const &frame);
+
+private:
+    struct Write
+    {
+        int offset;
+        quint8 mask;
+        quint8 value;
+    };
+    // A value for the demo screens: bytes, or a text at an offset.
+    struct Sample
+    {
+        int bufferId;  // 0: the selected protocol's buffer
+        QList<Write> writes;
+        int textOffset;
+        QString text;
+    };
+    // One frame the box knows: its bytes without the checksum, the bits
+    // that must match, and what the car reports on it.
+    struct Answer
+    {
+        QByteArray bytes;
+        QByteArray care;
+        QList<Write> writes;
+        int bufferId;  // 0: the selected protocol's buffer
+    };
+    struct Family
+    {
+        QList<int> ids;
+        QList<Answer> answers;
+        // Answers by their first three bytes.
+        QHash<QByteArray, QList<int>> byPrefix;
+        QList<Sample> samples;
+    };
+
+    QList<Answer> matches(Family const &family, QByteArray const &bytes) const;
+    void answer(QByteArray const &frame, QList<Answer> const &answers);
+
+    QList<Family> m_families;
+    QHash<int, int> m_familyOfId;
+    int m_adjustable = 0;
+    int m_answered = 0;
+    bool m_enabled = false;
+    int m_delay = DefaultDelayMs;
+};
+
+#endif // DECODERBOX_H

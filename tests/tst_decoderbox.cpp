@@ -1,0 +1,397 @@
+// The simulated car's decoder box: it answers the frames that the exported
+// catalogue knows by writing the buffer and signalling dataChanged(), and
+// logs, never answers, what it can't: bad checksums, unknown, empty or
+// short frames. End to end on the real plug-in and the build's catalogue,
+// with the window's switch and the gallery of pages.
+
+#include "canobj.h"
+#include "decoderbox.h"
+#include "eventpump.h"
+#include "gallery.h"
+#include "hostsim.h"
+#include "mainwindow.h"
+#include "scenariorunner.h"
+#include "simulatorhost.h"
+
+#include <QCheckBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+// A frame "2E A8 02 01 0A ck" with its checksum filled by the test's own
+// arithmetic: 2E frames end in 0xFF XOR the low byte of the sum of bytes 1
+// to size - 2; FD frames of protocol 67 in the 16-bit sum of bytes 1 to
+// size - 3, high byte first; other FD frames in the low byte of the sum.
+QByteArray frame(QString const &text, int protocol = 28)
+{
+    QByteArray bytes;
+    for (QString const &token : text.split(' ', Qt::SkipEmptyParts))
+        bytes.append(token == "ck" ? '\0' : char(token.toInt(nullptr, 16)));
+    const int size = bytes.size();
+    unsigned sum = 0;
+    if (quint8(bytes.at(0)) == 0x2E) {
+        for (int i = 1; i <= size - 2; ++i)
+            sum += quint8(bytes.at(i));
+        bytes[size - 1] = char(0xFF ^ (sum & 0xFF));
+    } else if (protocol == 67) {
+        for (int i = 1; i <= size - 3; ++i)
+            sum += quint8(bytes.at(i));
+        bytes[size - 2] = char((sum >> 8) & 0xFF);
+        bytes[size - 1] = char(sum & 0xFF);
+    } else {
+        for (int i = 1; i <= size - 2; ++i)
+            sum += quint8(bytes.at(i));
+        bytes[size - 1] = char(sum & 0xFF);
+    }
+    return bytes;
+}
+
+QJsonObject step(int value, QString const &frameText, QJsonArray const &writes, QString const &care = QString())
+{
+    QJsonObject s{{"value", value}, {"frame", frameText}, {"writes", writes}, {"shows", true}};
+    if (!care.isEmpty())
+        s["care"] = care;
+    return s;
+}
+
+// Two families: 28 with a plain row, a group row and a text row; 67 with
+// its two-byte checksum.
+QJsonObject fixture()
+{
+    const QJsonArray rows28{
+        QJsonObject{{"title", "Treble"}, {"adjustable", true}, {"answered", true},
+                    {"sample", QJsonObject{{"value", 9}, {"writes", QJsonArray{QJsonArray{106, 255, 9}}}}},
+                    {"steps", QJsonArray{step(9, "2E A8 02 01 09 ck", QJsonArray{QJsonArray{106, 255, 9}}),
+                                         step(10, "2E A8 02 01 0A ck", QJsonArray{QJsonArray{106, 255, 10}})}}},
+        QJsonObject{{"title", "High bits"}, {"adjustable", true}, {"answered", true},
+                    {"steps", QJsonArray{step(1, "2E 84 02 ?? 10 ck", QJsonArray{QJsonArray{40, 0x30, 0x10}},
+                                              "FF FF FF 00 30")}}},
+        QJsonObject{{"title", "Seat"}, {"adjustable", true}, {"answered", false}, {"direction", true}},
+        QJsonObject{{"title", "Name"}, {"adjustable", false},
+                    {"source", QJsonObject{{"type", "text"}, {"offset", 60}}}}};
+    const QJsonArray rows67{QJsonObject{
+        {"title", "Volume"}, {"adjustable", true}, {"answered", true},
+        {"steps", QJsonArray{step(3, "FD 05 05 03 ck ck", QJsonArray{QJsonArray{376, 255, 3}})}}}};
+    return QJsonObject{
+        {"families", QJsonArray{QJsonObject{{"family", 28}, {"ids", QJsonArray{28}},
+                                            {"pages", QJsonArray{QJsonObject{{"rows", rows28}}}}},
+                                QJsonObject{{"family", 67}, {"ids", QJsonArray{67}},
+                                            {"pages", QJsonArray{QJsonObject{{"rows", rows67}}}}}}}};
+}
+
+QString hex(QByteArray const &bytes)
+{
+    return QString(bytes.toHex(' ').toUpper());
+}
+
+} // namespace
+
+class TestDecoderBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        HostSim::reset();
+        HostSim::setProtocolId(28);
+    }
+
+    void answersKnownFramesAfterTheDelay()
+    {
+        DecoderBox box;
+        QString error;
+        QVERIFY(box.load(fixture(), &error));
+        QCOMPARE(box.adjustableRows(), 4);
+        QCOMPARE(box.answeredRows(), 3);
+        QVERIFY(!box.isEnabled());
+        QSignalSpy changed(HostSim::canbusSignals(), SIGNAL(dataChanged()));
+
+        // Off, the box hears nothing.
+        box.receive(frame("2E A8 02 01 0A ck"));
+        QTest::qWait(80);
+        QCOMPARE(changed.count(), 0);
+
+        box.setEnabled(true);
+        box.setDelay(30);
+        box.receive(frame("2E A8 02 01 0A ck"));
+        QCOMPARE(HostSim::buffer(28).byte(106), quint8(0));
+        QTest::qWait(10);
+        QCOMPARE(changed.count(), 0);
+        QTRY_COMPARE(changed.count(), 1);
+        QCOMPARE(HostSim::buffer(28).byte(106), quint8(10));
+
+        // A group frame matches whatever the other rows' bits are, and the
+        // answer writes the row's own bits alone.
+        HostSim::buffer(28).setByte(40, 0x05);
+        box.receive(frame("2E 84 02 C5 1F ck"));
+        QTRY_COMPARE(changed.count(), 2);
+        QCOMPARE(HostSim::buffer(28).byte(40), quint8(0x15));
+
+        // A request: dataChanged() alone.
+        box.receive(frame("2E 90 02 51 00 ck"));
+        QTRY_COMPARE(changed.count(), 3);
+
+        // Protocol 67: two checksum bytes.
+        HostSim::setProtocolId(67);
+        box.receive(frame("FD 05 05 03 ck ck", 67));
+        QTRY_COMPARE(changed.count(), 4);
+        QCOMPARE(HostSim::buffer(67).byte(376), quint8(3));
+    }
+
+    void badFramesAreLoggedNeverAnswered_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("line");
+        const QByteArray good = frame("2E A8 02 01 0A ck");
+        QByteArray wrongChecksum = good;
+        wrongChecksum[5] = char(wrongChecksum.at(5) ^ 1);
+        QTest::newRow("wrong checksum") << wrongChecksum << "no answer: " + hex(wrongChecksum) + " (bad checksum)";
+        QTest::newRow("empty") << QByteArray() << QString("no answer: (empty) (empty frame)");
+        QTest::newRow("too short") << QByteArray::fromHex("2EA8") << QString("no answer: 2E A8 (too short)");
+        QTest::newRow("unknown header") << QByteArray::fromHex("AA0102030405")
+                                        << QString("no answer: AA 01 02 03 04 05 (unknown header)");
+        const QByteArray unknown = frame("2E A8 02 07 01 ck");
+        QTest::newRow("unknown frame") << unknown << "no answer: " + hex(unknown) + " (unknown frame)";
+        const QByteArray longer = frame("2E A8 03 01 0A 00 ck");
+        QTest::newRow("known start, other size") << longer << "no answer: " + hex(longer) + " (unknown frame)";
+    }
+
+    void badFramesAreLoggedNeverAnswered()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, line);
+        DecoderBox box;
+        QString error;
+        QVERIFY(box.load(fixture(), &error));
+        box.setEnabled(true);
+        box.setDelay(0);
+        QSignalSpy changed(HostSim::canbusSignals(), SIGNAL(dataChanged()));
+        QSignalSpy unanswered(&box, &DecoderBox::unanswered);
+        const QByteArray before = QByteArray(reinterpret_cast<char *>(HostSim::buffer(28).data()), HostSim::bufferSize());
+        box.receive(bytes);
+        QTest::qWait(20);
+        QCOMPARE(unanswered.count(), 1);
+        QCOMPARE(unanswered.at(0).at(0).toString(), line);
+        QCOMPARE(changed.count(), 0);
+        QCOMPARE(QByteArray(reinterpret_cast<char *>(HostSim::buffer(28).data()), HostSim::bufferSize()), before);
+    }
+
+    void missingOrMalformedCatalogueKeepsTheBoxOff()
+    {
+        QTemporaryDir dir;
+        DecoderBox box;
+        QString error;
+        QVERIFY(!box.load(dir.filePath("none.json"), &error));
+        QVERIFY(error.contains("none.json"));
+        QFile broken(dir.filePath("broken.json"));
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        broken.write("{\"families\": [");
+        broken.close();
+        QVERIFY(!box.load(broken.fileName(), &error));
+        QVERIFY(error.contains("not a catalogue"));
+        QVERIFY(!box.load(QJsonObject{{"families", QJsonArray()}}, &error));
+        box.setEnabled(true);
+        QVERIFY(!box.isEnabled());
+        QVERIFY(!box.isLoaded());
+    }
+
+    void samplesForTheDemoScreens()
+    {
+        DecoderBox box;
+        QString error;
+        QVERIFY(box.load(fixture(), &error));
+        QVERIFY(box.writeSamples(28));
+        QCOMPARE(HostSim::buffer(28).byte(106), quint8(9));
+        QCOMPARE(HostSim::buffer(28).text(60), QString("Name"));
+        QVERIFY(!box.writeSamples(41));
+    }
+
+    void endToEndWithThePlugin();
+    void everyTablePageMovesOnATap();
+    void windowSwitchAndFrameLog();
+    void galleryOfOneFamily();
+
+private:
+    bool run(Scenario::Runner &runner, QString const &text, QString *failure);
+};
+
+bool TestDecoderBox::run(Scenario::Runner &runner, QString const &text, QString *failure)
+{
+    Scenario::Script script;
+    if (!Scenario::parse("test", text, &script, failure))
+        return false;
+    const Scenario::Result result = runner.run(script);
+    *failure = result.message;
+    return result.status == Scenario::Passed;
+}
+
+void TestDecoderBox::endToEndWithThePlugin()
+{
+    SimulatorHost host;
+    QString error;
+    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QVERIFY(host.box().answeredRows() * 10 > host.box().adjustableRows() * 9);
+    HostSim::screen()->show();
+    Scenario::Runner runner(host);
+    // Treble: the tap sends the frame, and the value moves once the box
+    // has answered. Then a mapped row: light colour "blue" goes out as code
+    // 5 and comes back as the same option. Meter mode "customize" goes out
+    // as the code of "view 1", and comes back as that.
+    QVERIFY2(run(runner,
+                 "protocol 28\n"
+                 "buf 106 9\n"
+                 "call showExView\n"
+                 "tap title 1\n"
+                 "box on\n"
+                 "wait 150\n"
+                 "expect row 1 \"0\"\n"
+                 "tap row 1 right\n"
+                 "expect row 1 \"0\"\n"
+                 "wait 100\n"
+                 "expect row 1 \"1\"\n"
+                 "box delay 0\n"
+                 "tap row 1 left\n"
+                 "tap row 1 left\n"
+                 "wait 20\n"
+                 "expect rowvalue 1 8\n"
+                 "tap bar back\n"
+                 "box off\n"
+                 "tap title 1\n"
+                 "tap row 1 right\n"
+                 "wait 100\n"
+                 "expect rowvalue 1 8\n",
+                 &error),
+             qPrintable(error));
+    // Scenarios start with the box off.
+    QVERIFY(!host.box().isEnabled());
+    // Without a catalogue the box can't be switched on, and says why.
+    QVERIFY(!host.loadCatalogue(QString(), &error));
+    QVERIFY(!run(runner, "box on\n", &error));
+    QVERIFY2(error.endsWith("expected a decoder box got none: no catalogue file named"), qPrintable(error));
+    QVERIFY(run(runner, "box off\nbox delay 5\n", &error));
+    HostSim::screen()->hide();
+    HostSim::reset();
+}
+
+void TestDecoderBox::everyTablePageMovesOnATap()
+{
+    // On every table page of every family, the first row that the box
+    // answers: from its demo value, a tap on the right arrow moves it to the
+    // next value it steps to, as the car would report it.
+    SimulatorHost host;
+    QString error;
+    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QFile file(CATALOGUE_FILE);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonArray families = QJsonDocument::fromJson(file.readAll()).object().value("families").toArray();
+    HostSim::screen()->show();
+    Scenario::Runner runner(host);
+    int pagesTried = 0;
+    QStringList failures;
+    for (QJsonValue const &f : families) {
+        const QJsonObject family = f.toObject();
+        const int protocol = family.value("ids").toArray().first().toInt();
+        const QJsonArray pages = family.value("pages").toArray();
+        for (QJsonValue const &p : pages) {
+            const QJsonObject page = p.toObject();
+            const QJsonArray rows = page.value("rows").toArray();
+            for (int r = 0; r < rows.size(); ++r) {
+                const QJsonObject row = rows.at(r).toObject();
+                const QJsonArray steps = row.value("steps").toArray();
+                if (!row.value("answered").toBool() || steps.size() < 2 || !row.contains("sample"))
+                    continue;
+                const int sample = row.value("sample").toObject().value("value").toInt();
+                int next = sample;
+                for (QJsonValue const &s : steps) {
+                    const int value = s.toObject().value("value").toInt();
+                    if (value > sample && (next == sample || value < next))
+                        next = value;
+                }
+                HostSim::reset();
+                HostSim::setProtocolId(protocol);
+                host.box().writeSamples(protocol);
+                const QString script = QString("protocol %1\ncall showExView\ntap title %2\nbox on\nbox delay 0\n"
+                                               "wait 120\nexpect rowvalue %3 %4\ntap row %3 right\nwait 20\n"
+                                               "expect rowvalue %3 %5\ntap bar home\n")
+                                           .arg(protocol).arg(page.value("index").toInt()).arg(r).arg(sample).arg(next);
+                ++pagesTried;
+                if (!run(runner, script, &error)) {
+                    failures << QString("%1 row %2: %3").arg(page.value("class").toString()).arg(r).arg(error);
+                    run(runner, "tap bar home\n", &error);
+                }
+                break;
+            }
+        }
+    }
+    HostSim::screen()->hide();
+    HostSim::reset();
+    QVERIFY2(pagesTried >= 45, qPrintable(QString::number(pagesTried)));
+    QVERIFY2(failures.isEmpty(), qPrintable(QString::number(pagesTried) + " pages; " + failures.join("\n")));
+}
+
+void TestDecoderBox::windowSwitchAndFrameLog()
+{
+    SimulatorHost host;
+    QString error;
+    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    MainWindow window(host);
+    window.startDemoCar(28);
+    host.box().setEnabled(true);
+    window.show();
+    EventPump::settle();
+    auto *check = window.findChild<QCheckBox *>("decoderBox");
+    QVERIFY(check);
+    QVERIFY(check->isEnabled());
+    QVERIFY(check->isChecked());
+    QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(5, check->height() / 2));
+    QVERIFY(!host.box().isEnabled());
+    QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(5, check->height() / 2));
+    QVERIFY(host.box().isEnabled());
+
+    // A frame the box can't answer shows in the frame log.
+    QByteArray bad = frame("2E A8 02 01 0A ck");
+    bad[5] = char(bad.at(5) ^ 0x10);
+    emit CanObj::instance()->sendDataToCan(bad);
+    auto *log = window.findChild<QTreeWidget *>("frameLog");
+    QVERIFY(log);
+    QTRY_VERIFY(log->topLevelItemCount() >= 2);
+    QTreeWidgetItem *last = log->topLevelItem(log->topLevelItemCount() - 1);
+    QCOMPARE(last->text(1), "no answer: " + hex(bad) + " (bad checksum)");
+    QCOMPARE(last->text(2), QString("box"));
+    window.close();
+    HostSim::reset();
+}
+
+void TestDecoderBox::galleryOfOneFamily()
+{
+    SimulatorHost host;
+    QString error;
+    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    HostSim::screen()->show();
+    QTemporaryDir dir;
+    const Scenario::Result result = Gallery::write(host, dir.path(), {28});
+    QVERIFY2(result.status == Scenario::Passed, qPrintable(result.message));
+    QCOMPARE(result.screenshots.size(), 8);
+    for (int page = 1; page <= 8; ++page) {
+        QImage picture(dir.filePath(QString("28_%1.png").arg(page)));
+        QCOMPARE(picture.size(), QSize(1024, 600));
+    }
+    QFile index(dir.filePath("index.html"));
+    QVERIFY(index.open(QIODevice::ReadOnly));
+    const QString html = QString::fromUtf8(index.readAll());
+    QVERIFY(html.contains("<h2>Family 28</h2>"));
+    QVERIFY(html.contains("<img src=\"28_2.png\" alt=\"Amplifier status\">"));
+    HostSim::screen()->hide();
+}
+
+QTEST_MAIN(TestDecoderBox)
+#include "tst_decoderbox.moc"
