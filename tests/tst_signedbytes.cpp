@@ -110,9 +110,9 @@ private slots:
         QCOMPARE(int(body.handbrake), -1);
         QCOMPARE(int(body.cleaningFluid), -1);
         QVERIFY(!body.isWarningState());
-        CarbodyData typed;
-        typed.byte3 = -1;
-        QVERIFY(body.compare(typed));
+        CarbodyData typedBody;
+        typedBody.byte3 = -1;
+        QVERIFY(body.compare(typedBody));
         // The same byte as 0x01 is a warning.
         writeBytes(&body, offsetof(CarbodyData, seatBelt), 0x01);
         QVERIFY(body.isWarningState());
