@@ -2,10 +2,17 @@
 # build needs when it is missing (tools/setup.sh), configure and build.
 # `make test-sanitize` runs the whole suite once more, built with
 # AddressSanitizer (leaks included) and UndefinedBehaviorSanitizer, with a
-# longer run of the random-input test. `make check` runs both, as CI does.
+# longer run of the random-input test.
+# `make test-armhf` builds for the head unit, 32-bit ARM (Debian's armhf),
+# with Debian's cross compiler and the armhf Qt unpacked into a sysroot that
+# is made once and kept, warnings as errors, and runs the unit tests under
+# qemu-arm. The simulator and the benchmarks are desktop-only.
+# `make check` runs the three, one after the other, as CI does.
 
 BUILD_DIR ?= build
 SANITIZE_DIR ?= build-sanitize
+ARMHF_DIR ?= build-armhf
+ARMHF_SYSROOT ?= $(ARMHF_DIR)/sysroot
 JOBS ?= $(shell nproc)
 FUZZ_ROUNDS ?= 150
 
@@ -16,7 +23,7 @@ SANITIZER_ENV = ASAN_OPTIONS=detect_leaks=1:halt_on_error=1:detect_stack_use_aft
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp:print_suppressions=0
 
-.PHONY: all setup configure build test test-sanitize check demo clean
+.PHONY: all setup configure build test test-sanitize test-armhf check demo clean
 
 all: build
 
@@ -33,15 +40,26 @@ test: build
 	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 
 test-sanitize: setup
-	@cmake -S . -B $(SANITIZE_DIR) -DCARCONTROL_SANITIZE=ON -DCARCONTROL_CHECK32=OFF
+	@cmake -S . -B $(SANITIZE_DIR) -DCARCONTROL_SANITIZE=ON
 	@$(SANITIZER_ENV) cmake --build $(SANITIZE_DIR) -j $(JOBS)
 	@cd $(SANITIZE_DIR) && QT_QPA_PLATFORM=offscreen CARCONTROL_FUZZ_ROUNDS=$(FUZZ_ROUNDS) $(SANITIZER_ENV) \
 		ctest --output-on-failure -j $(JOBS)
 
-check: test test-sanitize
+test-armhf:
+	@sh tools/setup.sh armhf
+	@sh tools/armhf-sysroot.sh $(ARMHF_SYSROOT)
+	@cmake -S . -B $(ARMHF_DIR) -DCMAKE_TOOLCHAIN_FILE=$(CURDIR)/cmake/armhf-toolchain.cmake \
+		-DCARCONTROL_ARMHF_SYSROOT=$(abspath $(ARMHF_SYSROOT)) -DCMAKE_CXX_FLAGS=-Werror
+	@cmake --build $(ARMHF_DIR) -j $(JOBS)
+	@cd $(ARMHF_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+check:
+	@$(MAKE) --no-print-directory test
+	@$(MAKE) --no-print-directory test-sanitize
+	@$(MAKE) --no-print-directory test-armhf
 
 demo: build
 	@sh tools/demo.sh $(BUILD_DIR)
 
 clean:
-	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR)
+	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(ARMHF_DIR)

@@ -10,6 +10,8 @@
 
 #include <stddef.h>
 
+#include <type_traits>
+
 #define RECORD_AT(type, member, offset) \
     static_assert(sizeof(void *) != 4 || offsetof(type, member) == offset, \
                   #type "::" #member " must lie at byte " #offset)
@@ -105,3 +107,31 @@ RECORD_AT(RadarData, valid, 0);
 RECORD_AT(RadarData, scale, 1);
 RECORD_AT(RadarData, distances, 2);
 RECORD_AT(RadarData, secondDistances, 10);
+
+// A byte below 0 means that the car lacks the function or doesn't report the
+// value, and the module writes it as 0xFF. These fields are signed types of
+// their own on every target, also where plain char is unsigned (ARM).
+#define SIGNED_BYTE(record, member) \
+    static_assert(std::is_same<std::remove_extent<decltype(record::member)>::type, qint8>::value \
+                  && std::is_signed<qint8>::value, #record "::" #member " must be a signed byte")
+
+SIGNED_BYTE(AirData, leftTemperatureUnit);
+SIGNED_BYTE(AirData, rightTemperatureUnit);
+SIGNED_BYTE(AirData, extra41);
+SIGNED_BYTE(AirData, functions);
+SIGNED_BYTE(SeatHeatingData, leftSeat);
+SIGNED_BYTE(SeatHeatingData, rightSeat);
+SIGNED_BYTE(CarbodyData, byte0);
+SIGNED_BYTE(CarbodyData, handbrake);
+SIGNED_BYTE(CarbodyData, byte2);
+SIGNED_BYTE(CarbodyData, byte3);
+SIGNED_BYTE(CarbodyData, distanceUnit);
+SIGNED_BYTE(CarbodyData, speedUnit);
+SIGNED_BYTE(CarbodyData, speedUnit2);
+SIGNED_BYTE(CarbodyData, byte31);
+SIGNED_BYTE(CarbodyData, condensateFault);
+SIGNED_BYTE(CarbodyData, byte35);
+SIGNED_BYTE(CarbodyData, temperatureUnit);
+SIGNED_BYTE(CarbodyData, seatBelt);
+SIGNED_BYTE(CarbodyData, autoParkingFault);
+SIGNED_BYTE(CarbodyData, cleaningFluid);

@@ -219,26 +219,31 @@ private slots:
             checkPage(m, which, false);
 
         // The member's own buffer holds them at the other members' offsets,
-        // one block at a time.
+        // one block at a time. A buffer of the head unit holds only its own
+        // protocol's layout, and on its 32-bit build a text field is the
+        // object itself, so a byte of another layout in it can't be read
+        // there: this part runs on the desktop.
         const DataBuffer own = HostSim::buffer(protocol);
-        for (int offset : distinct([](Member const &x) { return x.voiceOffset; })) {
-            if (offset != m.voiceOffset)
-                writeVoiceProbe(own, offset);
+        if (sizeof(void *) == 8) {
+            for (int offset : distinct([](Member const &x) { return x.voiceOffset; })) {
+                if (offset != m.voiceOffset)
+                    writeVoiceProbe(own, offset);
+            }
+            checkPage(m, Voice, false);
+            clearBuffer(protocol);
+            for (int offset : distinct([](Member const &x) { return x.functionOffset; })) {
+                if (offset != m.functionOffset)
+                    writeFunctionProbe(own, offset, m.functionRows);
+            }
+            checkPage(m, Function, false);
+            clearBuffer(protocol);
+            for (int offset : distinct([](Member const &x) { return x.vehicleOffset; })) {
+                if (offset != m.vehicleOffset)
+                    writeVehicleProbe(own, offset, m.protocol);
+            }
+            checkPage(m, Vehicle, false);
+            clearBuffer(protocol);
         }
-        checkPage(m, Voice, false);
-        clearBuffer(protocol);
-        for (int offset : distinct([](Member const &x) { return x.functionOffset; })) {
-            if (offset != m.functionOffset)
-                writeFunctionProbe(own, offset, m.functionRows);
-        }
-        checkPage(m, Function, false);
-        clearBuffer(protocol);
-        for (int offset : distinct([](Member const &x) { return x.vehicleOffset; })) {
-            if (offset != m.vehicleOffset)
-                writeVehicleProbe(own, offset, m.protocol);
-        }
-        checkPage(m, Vehicle, false);
-        clearBuffer(protocol);
 
         // At its own offsets they show, and a refresh touches only their rows.
         struct Block

@@ -1,10 +1,22 @@
 #!/bin/sh
 # Installs the Debian packages that building and testing need, and only those
 # that are missing. Run as root on Debian 12; a no-op when all are present.
+#
+#   tools/setup.sh          the desktop build and its tests
+#   tools/setup.sh armhf    also the head unit's build (make test-armhf): the
+#                           cross compiler, qemu-arm, and mmdebstrap, which
+#                           unpacks the armhf Qt (tools/armhf-sysroot.sh)
 set -eu
 
-PACKAGES="cmake make g++ g++-multilib qtbase5-dev qtbase5-dev-tools \
+PACKAGES="cmake make g++ qtbase5-dev qtbase5-dev-tools \
 fonts-dejavu-core fonts-wqy-microhei"
+
+for group in "$@"; do
+    case $group in
+        armhf) PACKAGES="$PACKAGES crossbuild-essential-armhf qemu-user mmdebstrap" ;;
+        *) echo "setup: unknown group $group" >&2; exit 2 ;;
+    esac
+done
 
 missing=""
 for p in $PACKAGES; do
