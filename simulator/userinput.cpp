@@ -92,16 +92,10 @@ bool UserInput::tapTitle(int index, QString *failure)
                                           : QStringLiteral("no extended view");
         return false;
     }
-    const int count = list->model() ? list->model()->rowCount() : 0;
-    if (index < 0 || index >= count) {
-        *failure = QStringLiteral("%1 titles").arg(count);
+    const QModelIndex item = visibleItem(list, index, QStringLiteral("titles"), failure);
+    if (!item.isValid())
         return false;
-    }
-    const QModelIndex item = list->model()->index(index, 0);
-    list->scrollTo(item);
-    EventPump::settle();
-    const QRect rect = list->visualRect(item);
-    tapAt(itemPoint(list, rect, rect.center().x(), m_probe.screen()));
+    tapItem(list, item);
     return true;
 }
 
@@ -112,14 +106,9 @@ bool UserInput::tapRow(int row, Zone zone, QString *failure)
         *failure = QStringLiteral("no page in front");
         return false;
     }
-    const int count = table->model() ? table->model()->rowCount() : 0;
-    if (row < 0 || row >= count) {
-        *failure = QStringLiteral("%1 rows").arg(count);
+    const QModelIndex item = visibleItem(table, row, QStringLiteral("rows"), failure);
+    if (!item.isValid())
         return false;
-    }
-    const QModelIndex item = table->model()->index(row, 0);
-    table->scrollTo(item);
-    EventPump::settle();
 
     // The zones of the row's right half, as the page table tells them apart:
     // from where that half begins, the left arrow's square as wide as a row
@@ -145,17 +134,31 @@ bool UserInput::tapEntry(int index, QString *failure)
         *failure = QStringLiteral("no list dialog open");
         return false;
     }
-    const int count = list->model() ? list->model()->rowCount() : 0;
-    if (index < 0 || index >= count) {
-        *failure = QStringLiteral("%1 entries").arg(count);
+    const QModelIndex item = visibleItem(list, index, QStringLiteral("entries"), failure);
+    if (!item.isValid())
         return false;
-    }
-    const QModelIndex item = list->model()->index(index, 0);
-    list->scrollTo(item);
-    EventPump::settle();
-    const QRect rect = list->visualRect(item);
-    tapAt(itemPoint(list, rect, rect.center().x(), m_probe.screen()));
+    tapItem(list, item);
     return true;
+}
+
+QModelIndex UserInput::visibleItem(QAbstractItemView *view, int index, QString const &noun,
+                                   QString *failure) const
+{
+    const int count = view->model() ? view->model()->rowCount() : 0;
+    if (index < 0 || index >= count) {
+        *failure = QStringLiteral("%1 %2").arg(count).arg(noun);
+        return QModelIndex();
+    }
+    const QModelIndex item = view->model()->index(index, 0);
+    view->scrollTo(item);
+    EventPump::settle();
+    return item;
+}
+
+void UserInput::tapItem(QAbstractItemView *view, QModelIndex const &item)
+{
+    const QRect rect = view->visualRect(item);
+    tapAt(itemPoint(view, rect, rect.center().x(), m_probe.screen()));
 }
 
 void UserInput::drag(QWidget *widget, QPoint const &from, QPoint const &to)

@@ -7,9 +7,11 @@
 // button of the base bar) find it through the screen probe, scroll it into
 // view and tap its point of the screen.
 
+#include <QModelIndex>
 #include <QPoint>
 #include <QString>
 
+class QAbstractItemView;
 class ScreenProbe;
 class QWidget;
 
@@ -43,6 +45,12 @@ public:
     void dragAt(QPoint const &screenFrom, QPoint const &screenTo);
 
 private:
+    // Item index of a shown view, scrolled into sight; an invalid index and
+    // the failure, naming what the view counts (noun), if it has no such item.
+    QModelIndex visibleItem(QAbstractItemView *view, int index, QString const &noun, QString *failure) const;
+    // A tap in the middle of an item.
+    void tapItem(QAbstractItemView *view, QModelIndex const &item);
+
     ScreenProbe const &m_probe;
 };
 
