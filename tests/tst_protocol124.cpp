@@ -339,7 +339,7 @@ private slots:
     }
 
     // The bar follows the finger in the second source only; the release
-    // sends the position: 2E C7 02 2F value 00, as the player takes it.
+    // sends the position: 2E C7 02 2F value and the checksum, six bytes.
     void discPositionBar()
     {
         buffer().setByte(36, 2);
@@ -353,7 +353,7 @@ private slots:
         QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(width - 1, bar->height() / 2));
         QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(margin, bar->height() / 2));
         QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(margin, bar->height() / 2));
-        QCOMPARE(takeSent(), hex({frame("2E C7 02 2F 64 00 ck"), frame("2E C7 02 2F 00 00 ck")}));
+        QCOMPARE(takeSent(), hex({frame("2E C7 02 2F 64 ck"), frame("2E C7 02 2F 00 ck")}));
         // The refresh puts the car's position back only when it changes.
         p.refresh();
         QCOMPARE(bar->getValue(), 0);

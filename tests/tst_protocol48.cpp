@@ -594,14 +594,14 @@ private slots:
         for (int row = 0; row < 25; ++row)
             QVERIFY(p.index(row).data(AdjustableRole).toBool());
 
-        // The distances follow the body record's unit; a consumption below
-        // 0 shows as 0.
+        // The distances show kilometres whatever unit the body record gives;
+        // a consumption below 0 shows as 0.
         QCOMPARE(p.changedRows([&] {
             body->distanceUnit = 1;
             body->value32 = -5;
-        }), (QList<int>{27, 28, 29}));
-        QCOMPARE(p.shown(27), QString("123456.0mi"));
-        QCOMPARE(p.shown(28), QString("380.0mi"));
+        }), (QList<int>{29}));
+        QCOMPARE(p.shown(27), QString("123456.0km"));
+        QCOMPARE(p.shown(28), QString("380.0km"));
         QCOMPARE(p.shown(29), QString("0.0L/100km"));
 
         // Without the records the read-outs are empty or zero.

@@ -272,7 +272,10 @@ private slots:
         p.tap(3, RightArrow);
         p.tap(3, LeftArrow);
         QCOMPARE(sent(), hex(fds({"FD 08 A9 0A 50 18 FE ck ck", "FD 08 A9 0A 50 18 FE ck ck"})));
-        QCOMPARE(p.changedRows([] {}), QList<int>{3});
+        // The row waits for the car: the buffer keeps what it reported.
+        QCOMPARE(int(buffer().byte(355)), 7);
+        QCOMPARE(p.changedRows([] {}), QList<int>{});
+        QCOMPARE(p.changedRows([] { setBytes(355, {0xFE}); }), QList<int>{3});
         QCOMPARE(p.shown(3), QString("none"));
     }
 
@@ -410,11 +413,13 @@ private slots:
         QCOMPARE(p.shown(42), QString::fromUtf8("29.0℃"));
     }
 
-    // A step writes the row's byte and sends its group from the buffer; the
-    // row keeps its text. Drive modes: rows 3 to 9 write their byte (the speed
-    // limit as its code) and send FD 08 A9 0A air regeneration speed; the
-    // reset goes alone. Appointments: each setting sends its group
-    // zero-filled; the way goes out alone, counted from 1.
+    // A step sends its group from the buffer with the stepped value in the
+    // row's place; the row keeps its text. Drive modes: rows 3 to 9 send
+    // FD 08 A9 0A air regeneration speed (the speed limit as its code) and
+    // leave the buffer as the car reported it; the reset goes alone.
+    // Appointments: each setting writes its byte first and sends its group
+    // zero-filled; the way goes out alone, counted from 1. The last column is
+    // the row's byte after the step.
     void groupFrames_data()
     {
         QTest::addColumn<int>("index");
@@ -431,14 +436,14 @@ private slots:
         auto appointment = [](const char *name, int row, bool down, const char *expected, int byte) {
             QTest::newRow(name) << int(Appointments) << row << down << QString(expected) << 219 + row << byte;
         };
-        drive("speed up", 3, false, "FD 08 A9 0A 50 18 78 ck ck", 0x78);
-        drive("speed down", 3, true, "FD 08 A9 0A 50 18 64 ck ck", 0x64);
-        drive("ECO regeneration up", 4, false, "FD 08 A9 0A 50 28 6E ck ck", 2);
+        drive("speed up", 3, false, "FD 08 A9 0A 50 18 78 ck ck", 0x6E);
+        drive("speed down", 3, true, "FD 08 A9 0A 50 18 64 ck ck", 0x6E);
+        drive("ECO regeneration up", 4, false, "FD 08 A9 0A 50 28 6E ck ck", 1);
         drive("COMFORT regeneration at the bottom", 5, true, "FD 08 A9 0A 50 18 6E ck ck", 0);
         drive("SPORT regeneration at the top", 6, false, "FD 08 A9 0A 50 18 6E ck ck", 2);
-        drive("ECO air standard", 7, true, "FD 08 A9 0A 10 18 6E ck ck", 0);
-        drive("COMFORT air ECO", 8, false, "FD 08 A9 0A 54 18 6E ck ck", 1);
-        drive("SPORT air standard", 9, true, "FD 08 A9 0A 40 18 6E ck ck", 0);
+        drive("ECO air standard", 7, true, "FD 08 A9 0A 10 18 6E ck ck", 1);
+        drive("COMFORT air ECO", 8, false, "FD 08 A9 0A 54 18 6E ck ck", 0);
+        drive("SPORT air standard", 9, true, "FD 08 A9 0A 40 18 6E ck ck", 1);
         drive("reset sure", 14, false, "FD 06 A9 0B 01 ck ck", 0);
         drive("reset cancel", 14, true, "FD 06 A9 0B 00 ck ck", 0);
         appointment("way 2", 0, false, "FD 06 A9 01 03 ck ck", 2);
@@ -626,9 +631,20 @@ private slots:
         QCOMPARE(p.title(27), QString("rear right tire-air leak detection"));
         p.expectShown({"2.4 bar", "2.5 bar", "2.3 bar", "2.2 bar", QString::fromUtf8("25.0℃"),
                        QString::fromUtf8("0.0℃"), QString::fromUtf8("-40.0℃"), QString::fromUtf8("215.0℃")});
-        // The sensor states lie beyond the record: nothing is read there.
+        // The sensor states come from the protocol's buffer, bytes 176 to
+        // 195; a byte beyond a row's options shows none.
+        const char *const firstOptions[] = {"battery is normal", "normal", "normal", "No air leakage"};
         for (int row = 8; row < 28; ++row)
-            QCOMPARE(p.shown(row), QString());
+            QCOMPARE(p.shown(row), QString(row < 12 ? "No trouble" : firstOptions[(row - 12) % 4]));
+        QCOMPARE(p.changedRows([] { setBytes(176, {1, 0, 1, 0, 0, 1, 3, 1, 1, 2, 0, 0, 0, 0, 1, 7, 1, 0, 4, 1}); }),
+                 (QList<int>{8, 10, 13, 14, 15, 16, 17, 22, 23, 24, 26, 27}));
+        const QStringList states = {"malfunction", "No trouble", "malfunction", "No trouble",
+                                    "battery is normal", "slightly higher", "slightly higher", "air leak",
+                                    "battery is too low", "Severely high", "normal", "No air leakage",
+                                    "battery is normal", "normal", "Severely low", "",
+                                    "battery is too low", "normal", "Severely high", "air leak"};
+        for (int row = 8; row < 28; ++row)
+            QCOMPARE(p.shown(row), states.at(row - 8));
         QCOMPARE(p.changedRows([&] {
             record.rearLeftPressure = "1.9 bar";
             record.temperature[TirePressureInformation::FrontRight] = 45;

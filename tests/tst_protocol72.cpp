@@ -133,7 +133,7 @@ private slots:
         QVERIFY(HostSim::sentFrames().isEmpty());
     }
 
-    // 2E C6 03 b3 b4 00: the custom states packed in b4, a change of one
+    // 2E C6 03 b3 b4 00: the custom states summed in b4, a change of one
     // repeating the others from the buffer.
     void drivingMode_data()
     {
@@ -153,8 +153,11 @@ private slots:
         QTest::newRow("air conditioning") << 3 << true << custom << "2E C6 03 04 90 00 ck";
         QTest::newRow("air conditioning stays at its last")
             << 3 << false << custom << "2E C6 03 04 98 00 ck";
-        // Bytes beyond their fields don't spill into the others' bits.
-        QTest::newRow("bad neighbours") << 2 << false << QList<int>{0, 0xFF, 0, 0xFE} << "2E C6 03 04 D0 00 ck";
+        // The packed byte is the sum dynamic x 64 + steering x 16 + air x 8,
+        // cut to eight bits: a byte outside its options goes in as it stands.
+        QTest::newRow("air conditioning of 2 adds 16")
+            << 1 << false << QList<int>{3, 0, 0, 2} << "2E C6 03 04 50 00 ck";
+        QTest::newRow("bytes beyond the options") << 2 << false << QList<int>{0, 0xFF, 0, 0xFE} << "2E C6 03 04 C0 00 ck";
     }
     void drivingMode()
     {

@@ -76,9 +76,9 @@ private slots:
         QCOMPARE(p.shown(10), QString("Amplifier 2"));
     }
 
-    // One frame for the whole page, FD 0B C5: the first amplifier (and a car
-    // configured as 3) holds the balance and tone rows within 2 .. 16 and
-    // counts them from 2; the second sends the bytes as they stand.
+    // One frame for the whole page, FD 0B C5: the first amplifier holds the
+    // balance and tone rows within 2 .. 16 and counts them from 2; the second
+    // sends the bytes as they stand.
     void amplifierFrames_data()
     {
         QTest::addColumn<int>("amplifier");
@@ -105,8 +105,12 @@ private slots:
         add("2: bass raw", 1, 1, 2, true, 1, "FD 0B C5 09 0B 01 10 09 83 36 02 ck");
         add("2: treble to 17", 1, 1, 3, false, 17, "FD 0B C5 09 0B 02 11 09 83 36 02 ck");
         add("2: to amplifier 1", 1, 1, 10, true, 0, "FD 0B C5 07 09 00 0E 09 83 36 01 ck");
-        add("configuration 3 as amplifier 1", 1, 3, 3, false, 16, "FD 0B C5 07 09 00 0E 09 83 36 02 ck");
-        add("configuration 3, bass", 1, 3, 2, false, 3, "FD 0B C5 07 09 01 0E 09 83 36 02 ck");
+        // A car configured as 3 takes a road of its own: the row steps as
+        // it would, and nothing goes out.
+        add("configuration 3, treble", 1, 3, 3, false, 17, "");
+        add("configuration 3, bass", 1, 3, 2, false, 3, "");
+        add("configuration 3, amplifier 1 balance", 0, 3, 0, true, 8, "");
+        add("configuration 3, amplifier", 0, 3, 10, false, 1, "");
     }
     void amplifierFrames()
     {
@@ -201,9 +205,9 @@ private slots:
         auto add = [](const char *name, int model, int row, bool down, const char *expected) {
             QTest::newRow(name) << model << row << down << QString(expected);
         };
-        add("model counted from 0", 2, 1, false, "FD 06 A7 02 01 ck");
+        add("model counted from 0", 2, 1, false, "FD 06 A7 02 01 00 ck");
         add("model to null", 1, 1, true, "");
-        add("configuration with model", 2, 2, false, "FD 06 A7 02 02 ck");
+        add("configuration with model", 2, 2, false, "FD 06 A7 02 02 00 ck");
         add("configuration without model", 0, 2, false, "");
         add("configuration to null", 2, 2, true, "");
         add("air volume", 2, 3, false, "FD 05 8A 09 02 ck");

@@ -370,11 +370,11 @@ void CarInfoItem124_3::sendCDDate(unsigned char code)
     Frames::send(Frames::make2E(DiscCommand, {code, 0}));
 }
 
-// The position where the finger left the bar, in per cent. The frame is
-// the player's own: its length byte says two, three bytes follow.
+// The position where the finger left the bar, in per cent: 2E C7 02 2F
+// value and the checksum, six bytes.
 void CarInfoItem124_3::onSliderValueChanged(int value)
 {
-    Frames::send(Frames::exact({0x2E, DiscCommand, 0x02, PositionCode, value, 0x00, 0x00}));
+    Frames::send(Frames::make2E(DiscCommand, {PositionCode, value}));
 }
 
 void CarInfoItem124_3::openListDialog()

@@ -83,12 +83,6 @@ QVariant remainingFuel(DataBuffer const &)
     return bodyRecord() ? int(bodyRecord()->remainingFuel) : 0;
 }
 
-// The distances are in the body record's unit: 1 miles, else kilometres.
-QVariant distanceUnit(DataBuffer const &)
-{
-    return bodyRecord() && bodyRecord()->distanceUnit == 1 ? 1 : 0;
-}
-
 const int LitresPer100Km = 2;
 
 } // namespace
@@ -125,8 +119,9 @@ QList<Row> CarInfoItem48_8::rowTable() const
         << own(24, 0xA5, "Rain sensor", {"OFF", "ON"})
         << Row::text("Ambient temperature information").read(ClimateRows::outsideTemperature)
         << Row::of(NumberKind, "Backlight adjustment", {0, 255}).read(backlight)
-        << Row::of(DistanceKind, "driven distance", {0, 0xFFFFFF}).read(drivenDistance).unitBy(distanceUnit)
-        << Row::of(DistanceKind, "recharge mileage", {0, 65535}).read(rechargeMileage).unitBy(distanceUnit)
+        // The distances show kilometres: the page reads no unit of the car's.
+        << Row::of(DistanceKind, "driven distance", {0, 0xFFFFFF}).read(drivenDistance)
+        << Row::of(DistanceKind, "recharge mileage", {0, 65535}).read(rechargeMileage)
         << Row::of(DistanceKind, "Average fuel consumption", {0, 511}).read(averageConsumption)
                .unit(LitresPer100Km).factor(0.1)
         << Row::of(PercentKind, "Remaining oil", {0, 255}).read(remainingFuel).factor(0.5)

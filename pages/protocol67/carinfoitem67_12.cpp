@@ -9,31 +9,51 @@ namespace {
 // bytes 139 to 142 with 40 for 0 degrees: without a record, the zero point.
 const int ZeroDegrees = 40;
 
-// The sensor states would lie at bytes 176 to 195, beyond the end of the
-// climate record: nothing is read there, and the rows show no option.
-QVariant beyondRecord(DataBuffer const &)
-{
-    return -1;
-}
-
 // A temperature counted from the zero point.
 Row shiftedTemperatureRow(const char *title, Row::Reader reader)
 {
     return Row::of(TemperatureKind, title, {0, ZeroDegrees, 255}).read(reader);
 }
 
-Row stateRow(const char *title, std::initializer_list<const char *> options)
-{
-    return Row::choice(title, options).read(beyondRecord);
-}
+// The sensor states lie in the protocol's own buffer from byte 176 on:
+// four fault rows, then four rows for each wheel.
+const int FirstStateByte = 176;
 
-Row sensorFault(const char *title) { return stateRow(title, {"No trouble", "malfunction"}); }
-Row battery(const char *title) { return stateRow(title, {"battery is normal", "battery is too low"}); }
-Row temperatureState(const char *title) { return stateRow(title, {"normal", "slightly higher", "Severely high"}); }
-Row airLeak(const char *title) { return stateRow(title, {"No air leakage", "air leak"}); }
-Row pressureState(const char *title)
+QList<Row> stateRows()
 {
-    return stateRow(title, {"normal", "Severely low", "slightly lower", "slightly higher", "Severely high"});
+    static const char *const faults[] = {
+        "Rear right sensor fault status", "Rear left sensor fault status",
+        "Front right sensor fault status", "Front left sensor fault status"};
+    struct Wheel {
+        const char *battery;
+        const char *temperature;
+        const char *pressure;
+        const char *airLeak;
+    };
+    static const Wheel wheels[] = {
+        {"Front left tire-battery status", "Front left tire-sensor temperature status",
+         "Front left tire-sensor pressure status", "Front left tire-airLeak detection"},
+        {"front right tire--battery status", "front right tire-sensor temperature status",
+         "front right tire-sensor pressure status", "front right tire-air leak detection"},
+        {"rear left tire-battery status", "rear left tire-sensor temperature status",
+         "rear left tire-sensor pressure status", "rear left tire-air leak detection"},
+        {"rear right tire-battery status", "rear right tire-sensor temperature status",
+         "rear right tire-sensor pressure status", "rear right tire-air leak detection"}};
+
+    QList<Row> rows;
+    int offset = FirstStateByte;
+    for (const char *fault : faults)
+        rows << Row::choice(fault, {"No trouble", "malfunction"}).at(offset++);
+    for (Wheel const &wheel : wheels) {
+        rows << Row::choice(wheel.battery, {"battery is normal", "battery is too low"}).at(offset);
+        rows << Row::choice(wheel.temperature, {"normal", "slightly higher", "Severely high"}).at(offset + 1);
+        rows << Row::choice(wheel.pressure,
+                            {"normal", "Severely low", "slightly lower", "slightly higher", "Severely high"})
+                    .at(offset + 2);
+        rows << Row::choice(wheel.airLeak, {"No air leakage", "air leak"}).at(offset + 3);
+        offset += 4;
+    }
+    return rows;
 }
 
 } // namespace
@@ -52,26 +72,7 @@ QList<Row> CarInfoItem67_12::rowTable() const
         << shiftedTemperatureRow("Temperature-front right", temperature<Tyres::FrontRight, ZeroDegrees>)
         << shiftedTemperatureRow("Temperature-back left", temperature<Tyres::RearLeft, ZeroDegrees>)
         << shiftedTemperatureRow("Temperature-back right", temperature<Tyres::RearRight, ZeroDegrees>)
-        << sensorFault("Rear right sensor fault status")
-        << sensorFault("Rear left sensor fault status")
-        << sensorFault("Front right sensor fault status")
-        << sensorFault("Front left sensor fault status")
-        << battery("Front left tire-battery status")
-        << temperatureState("Front left tire-sensor temperature status")
-        << pressureState("Front left tire-sensor pressure status")
-        << airLeak("Front left tire-airLeak detection")
-        << battery("front right tire--battery status")
-        << temperatureState("front right tire-sensor temperature status")
-        << pressureState("front right tire-sensor pressure status")
-        << airLeak("front right tire-air leak detection")
-        << battery("rear left tire-battery status")
-        << temperatureState("rear left tire-sensor temperature status")
-        << pressureState("rear left tire-sensor pressure status")
-        << airLeak("rear left tire-air leak detection")
-        << battery("rear right tire-battery status")
-        << temperatureState("rear right tire-sensor temperature status")
-        << pressureState("rear right tire-sensor pressure status")
-        << airLeak("rear right tire-air leak detection"));
+        << stateRows());
 }
 
 void CarInfoItem67_12::valueStepped(int, int)

@@ -3,7 +3,8 @@
 
 #include "rowpage.h"
 
-// The tyres, from the tyre record inside the climate record: read-only.
+// The tyres: pressures and temperatures from the tyre record inside the
+// climate record, the sensor states from the protocol's buffer. Read-only.
 class CarInfoItem67_12 : public RowPage
 {
     Q_OBJECT

@@ -35,12 +35,14 @@ int modeInformation(int mode)
 }
 
 // FD 08 A9 0A a b c: the air conditioning rows, the energy regeneration
-// rows and the speed limit code, from the buffer.
-QByteArray modeGroup(DataBuffer const &data)
+// rows and the speed limit code, from the buffer, with the stepped setting
+// in its byte's place. The buffer itself stays as the car reported it.
+QByteArray modeGroup(DataBuffer const &data, int changedByte, int changedValue)
 {
-    const int air = 0x40 * data.byte(359) + 4 * data.byte(360) + 0x10 * data.byte(361);
-    const int regeneration = 0x10 * data.byte(356) + data.byte(357) + 4 * data.byte(358);
-    return Family67::frame(0xA9, {0x0A, air, regeneration, data.byte(SpeedLimitByte)});
+    const auto setting = [&](int offset) { return offset == changedByte ? changedValue : int(data.byte(offset)); };
+    const int air = 0x40 * setting(359) + 4 * setting(360) + 0x10 * setting(361);
+    const int regeneration = 0x10 * setting(356) + setting(357) + 4 * setting(358);
+    return Family67::frame(0xA9, {0x0A, air, regeneration, setting(SpeedLimitByte)});
 }
 
 } // namespace
@@ -84,9 +86,7 @@ void CarInfoItem67_5::valueStepped(int row, int value)
     }
     if (id < FirstGroupRow || id > LastGroupRow)
         return;
-    // The new setting goes into its byte, the speed limit as its code; the
-    // group goes out from the buffer and the row waits for the car.
-    DataBuffer data = buffer();
-    data.setByte(FirstByte + id, quint8(id == SpeedLimit ? speedCode(value) : value));
-    sendFrame(modeGroup(data));
+    // The group goes out with the new setting in its byte's place, the speed
+    // limit as its code; the row waits for the car.
+    sendFrame(modeGroup(buffer(), FirstByte + id, quint8(id == SpeedLimit ? speedCode(value) : value)));
 }

@@ -45,14 +45,15 @@ const int DrivingMode = 324;
 const int CustomMode = 3;
 
 // 2E C6 03 mode packed 00: the three custom states share the packed byte,
-// dynamic response in bits 7-6, steering feel in bits 5-4, air conditioning
-// in bit 3. A change of one repeats the others from the buffer.
+// dynamic response x 64 + steering feel x 16 + air conditioning x 8, cut to
+// eight bits; a state outside its options goes in as it stands. A change of
+// one repeats the others from the buffer.
 QByteArray drivingModeFrame(DataBuffer const &data, int row, int value)
 {
     int states[3] = {data.byte(DrivingMode + 1), data.byte(DrivingMode + 2), data.byte(DrivingMode + 3)};
     if (row >= 1 && row <= 3)
         states[row - 1] = value;
-    const int packed = (states[0] & 3) << 6 | (states[1] & 3) << 4 | (states[2] & 1) << 3;
+    const int packed = (states[0] * 64 + states[1] * 16 + states[2] * 8) & 0xFF;
     if (row == 0)
         return Frames::make2E(0xC6, {value, value == CustomMode ? packed : 0, 0x00});
     return Frames::make2E(0xC6, {0x04, packed, 0x00});

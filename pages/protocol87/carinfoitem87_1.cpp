@@ -11,11 +11,10 @@ const int AmplifierByte = 10;
 const int OwnPathConfiguration = 3;
 
 // The first amplifier takes the balance and tone rows within 2 .. 16 and
-// counts them from 2. A car whose configuration takes the page's own road
-// is served like the first amplifier.
+// counts them from 2.
 bool firstAmplifier(DataBuffer const &data)
 {
-    return data.byte(ConfigurationByte) == OwnPathConfiguration || data.byte(AmplifierByte) == 0;
+    return data.byte(AmplifierByte) == 0;
 }
 
 const int FirstLowest = 2;
@@ -31,9 +30,12 @@ int balanceStep(DataBuffer const &data, int current, bool down)
 
 // FD 0B C5 and eight bytes: the balances, bass and treble; the middle; the
 // loudness, the speed-linked volume and the sound effect; the centre
-// speaker and the subwoofer; the amplifier counted from 1.
+// speaker and the subwoofer; the amplifier counted from 1. A car whose
+// configuration takes a road of its own gets nothing from this page.
 QByteArray amplifierFrame(DataBuffer const &data, int)
 {
+    if (data.byte(ConfigurationByte) == OwnPathConfiguration)
+        return QByteArray();
     int tones[4];
     for (int i = 0; i < 4; ++i) {
         const int value = data.byte(i);

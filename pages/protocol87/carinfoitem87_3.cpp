@@ -14,13 +14,13 @@ enum Id { Backlight, CarModel, Configuration, AirVolume, Language, PanoramaState
 const int CarModelByte = 69;
 const int ConfigurationByte = 70;
 
-// FD 06 A7 model configuration: the model and its configuration as a pair.
-// The length byte says one byte more than the frame holds; the car wants it
-// so. The model row counts the model from 0, the configuration row sends
-// the model's byte as it stands; no pair goes out without a model.
+// FD 06 A7 model configuration 00: the model and its configuration as a
+// pair, seven bytes with the checksum. The model row counts the model from
+// 0, the configuration row sends the model's byte as it stands; no pair goes
+// out without a model.
 QByteArray pairFrame(int model, int configuration)
 {
-    return Frames::exact({0xFD, 0x06, 0xA7, model, configuration, 0x00});
+    return Frames::makeFD(0xA7, {model, configuration, 0x00});
 }
 
 QByteArray modelFrame(DataBuffer const &data, int)
