@@ -59,9 +59,11 @@ void RowPage::createView()
     view = new TableView(this);
     model = new ListModel1(view);
     model->setListData(list);
+    // The rows' height before the rows: each row then has it from the
+    // start, and the table paints once on its first display.
+    view->verticalHeader()->setDefaultSectionSize(rowHeight);
     view->setModel(model);
     view->setItemDelegate(new ListDelegate2(this));
-    view->verticalHeader()->setDefaultSectionSize(rowHeight);
 
     QVBoxLayout *layout = new QVBoxLayout;
     layout->addWidget(view, 0);
