@@ -12,6 +12,9 @@ ColumnFit::ColumnFit(QTableView *view)
 
 void ColumnFit::install(QTableView *view)
 {
+    // The header's own stretch would compute the same width later, on a
+    // timer of its own, and tell the view, which repaints the list again.
+    view->horizontalHeader()->setStretchLastSection(false);
     view->viewport()->installEventFilter(new ColumnFit(view));
 }
 
