@@ -8,7 +8,7 @@
 //    ints (aim: within 5x);
 //  - opening the extended view of every family.
 //
-// CARCONTROL_SOAK_CYCLES sets the number of open/close cycles (1,000) and
+// CARCONTROL_SOAK_CYCLES sets the number of open/close cycles (2,000) and
 // CARCONTROL_SOAK_CHANGES the number of data changes (10,000).
 
 #include "appframework.h"
@@ -27,6 +27,7 @@
 #include <QtTest>
 
 #include <malloc.h>
+#include <unistd.h>
 
 #if defined(__SANITIZE_ADDRESS__)
 // AddressSanitizer's own count of the bytes in use (its allocator replaces
@@ -115,7 +116,7 @@ private slots:
     // the first half; the second half must add nothing.
     void openCloseCycles()
     {
-        const int cycles = envCount("CARCONTROL_SOAK_CYCLES", 1000);
+        const int cycles = envCount("CARCONTROL_SOAK_CYCLES", 2000);
         auto cyclesOf = [](int n) {
             for (int i = 0; i < n; ++i) {
                 openAndClose(SettingsPage);
@@ -137,8 +138,8 @@ private slots:
               "%.1f bytes per cycle",
               cycles, double(ms) / cycles, half - start, end - half, perCycle);
         // A visit that kept even one QObject would show as well over a
-        // hundred bytes per cycle; the allocator's noise stays far below.
-        QVERIFY2(perCycle < 64, qPrintable(QStringLiteral("%1 bytes per cycle").arg(perCycle)));
+        // hundred bytes per cycle.
+        QVERIFY2(perCycle <= 4, qPrintable(QStringLiteral("%1 bytes per cycle").arg(perCycle)));
     }
 
     // Data changes on an open page: each one reaches the page in front,
@@ -228,5 +229,30 @@ private slots:
     }
 };
 
-QTEST_MAIN(BenchSoak)
+// glibc keeps freed blocks of each thread in a cache that its figures count
+// as in use: a few dozen bytes that come and go with the order of the frees.
+// The soak runs without that cache, so that the heap in use is what the
+// program holds; the process starts itself again with the cache off.
+static void withoutThreadCache(char **argv)
+{
+#if !defined(__SANITIZE_ADDRESS__)
+    const QByteArray tunables = qgetenv("GLIBC_TUNABLES");
+    if (tunables.contains("glibc.malloc.tcache_count=0"))
+        return;
+    qputenv("GLIBC_TUNABLES", tunables + (tunables.isEmpty() ? "" : ":") + "glibc.malloc.tcache_count=0");
+    execvp(argv[0], argv);
+    qWarning("can't start again without the thread cache; the heap figures include it");
+#else
+    Q_UNUSED(argv);
+#endif
+}
+
+int main(int argc, char *argv[])
+{
+    withoutThreadCache(argv);
+    QApplication app(argc, argv);
+    BenchSoak bench;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&bench, argc, argv);
+}
 #include "bench_soak.moc"

@@ -8,6 +8,7 @@
 #include "carinfoitem.h"
 #include "carlog.h"
 #include "catalogue.h"
+#include "columnfit.h"
 #include "frames.h"
 #include "listdelegate0.h"
 #include "listmodel0.h"
@@ -67,13 +68,16 @@ ExView::ExView(QWidget *parent)
 
     listView = new ListView(this);
     listView->setObjectName(QStringLiteral("listView"));
+    ColumnFit::install(listView);
     listModel = new ListModel0(this);
     listModel->setObjectName(QStringLiteral("listModel"));
+    // The rows' height comes before the rows: set after them, it resizes
+    // each row and repaints the list once more after its first paint.
+    listView->verticalHeader()->setDefaultSectionSize(81);
     listView->setModel(listModel);
     listView->setItemDelegate(new ListDelegate0(this));
     if (stack)
         listModel->setListData(stack->getDatalist());
-    listView->verticalHeader()->setDefaultSectionSize(81);
     const QRect systemView = UIManager::getSystemViewRect();
     const int inset = (baseBar->geometry().bottom() - baseBar->geometry().top() + 1) / 2;
     listView->setGeometry(systemView.adjusted(inset, 0, -inset, 0));

@@ -239,28 +239,23 @@ Row &Row::sendCodes(QList<int> const &codes)
 
 QVariant Row::value(DataBuffer const &buffer) const
 {
-    // Bytes and words, most rows of every page, are read and mapped as ints;
-    // a refresh runs this for every row.
-    int raw = 0;
+    if (hasIntValue())
+        return intValue(buffer);
     switch (m_source) {
     case NoSource:
         if (m_kind == TextKind)
             return QString();
-        break;
+        return shownNumber(0);
     case ByteSource:
-        raw = (buffer.byte(m_offset) >> m_shift) & m_mask;
-        break;
     case WordSource:
-        raw = int(buffer.word(m_offset));
-        break;
+        // A text row shows the number as it stands.
+        return rawNumber(buffer);
     case TextSource:
         return shown(QVariant(buffer.text(m_offset)));
     case ReaderSource:
         return shown(m_reader(buffer));
     }
-    if (m_kind == TextKind)
-        return raw;
-    return shownNumber(raw);
+    return QVariant();
 }
 
 QVariant Row::shown(QVariant const &raw) const

@@ -151,6 +151,17 @@ public:
 
     // The row's value as the buffer holds it now, after the display map.
     QVariant value(DataBuffer const &buffer) const;
+    // True for a number read from a byte or a 16-bit value: intValue() then
+    // gives what value() holds, without a QVariant.
+    bool hasIntValue() const
+    {
+        return m_kind != TextKind && (m_source == ByteSource || m_source == WordSource);
+    }
+    int intValue(DataBuffer const &buffer) const
+    {
+        const int raw = rawNumber(buffer);
+        return m_shownCodes.isEmpty() && !m_display ? raw : shownNumber(raw);
+    }
     // The value that a step from current lands on.
     int step(int current, bool down, QList<QVariant> const &options, DataBuffer const &buffer) const;
     // The frame for a stepped value, or an empty array if the row sends none.
@@ -163,6 +174,11 @@ public:
     QByteArray groupFrameFor(DataBuffer const &buffer, int key) const;
 
 private:
+    // The number in the row's byte (its bits) or 16-bit value.
+    int rawNumber(DataBuffer const &buffer) const
+    {
+        return m_source == ByteSource ? (buffer.byte(m_offset) >> m_shift) & m_mask : int(buffer.word(m_offset));
+    }
     // A raw value after the row's code list or display map.
     QVariant shown(QVariant const &raw) const;
     int shownNumber(int raw) const;

@@ -59,9 +59,11 @@ void RowPage::createView()
     view = new TableView(this);
     model = new ListModel1(view);
     model->setListData(list);
+    // The rows' height before the rows: each row then has it from the
+    // start, and the table paints once on its first display.
+    view->verticalHeader()->setDefaultSectionSize(rowHeight);
     view->setModel(model);
     view->setItemDelegate(new ListDelegate2(this));
-    view->verticalHeader()->setDefaultSectionSize(rowHeight);
 
     QVBoxLayout *layout = new QVBoxLayout;
     layout->addWidget(view, 0);
@@ -77,6 +79,7 @@ void RowPage::createView()
 void RowPage::initlist()
 {
     m_rows = rowTable();
+    planRefresh();
     const DataBuffer data = buffer();
     const char *context = metaObject()->className();
     for (int i = 0; i < m_rows.size(); ++i) {
@@ -102,18 +105,46 @@ QVariant RowPage::currentValue(int row) const
     return m_rows.at(row).value(buffer());
 }
 
+bool RowPage::hasOwnValues() const
+{
+    return false;
+}
+
+void RowPage::planRefresh()
+{
+    m_refreshPlan.fill(0, m_rows.size());
+    const bool ownValues = hasOwnValues();
+    for (int i = 0; i < m_rows.size(); ++i) {
+        Row const &row = m_rows.at(i);
+        if (!ownValues && row.hasIntValue())
+            m_refreshPlan[i] |= NumberRow;
+        if (row.followsUnit())
+            m_refreshPlan[i] |= UnitRow;
+    }
+}
+
 void RowPage::ondataChanged()
 {
     if (!model)
         return;
     const DataBuffer data = buffer();
-    const int rows = qMin(model->getListData().size(), m_rows.size());
+    QList<ListData> const &shown = model->getListData();
+    const int rows = qMin(shown.size(), m_rows.size());
     for (int i = 0; i < rows; ++i) {
-        updateRow(i, currentValue(i));
+        const int mark = m_refreshPlan.at(i);
+        // Most rows are numbers in bytes: compared as ints, only a row that
+        // changed goes through the model.
+        if (mark & NumberRow) {
+            const int value = m_rows.at(i).intValue(data);
+            if (shown.at(i).value != value)
+                model->setData(model->index(i, 0), value, ValueRole);
+        } else {
+            updateRow(i, currentValue(i));
+        }
         // A row that follows the car's unit switches its template.
-        if (m_rows.at(i).followsUnit()) {
+        if (mark & UnitRow) {
             const int unit = m_rows.at(i).unitCode(data);
-            if (model->getListData().at(i).unit != unit)
+            if (shown.at(i).unit != unit)
                 model->setData(model->index(i, 0), unit, UnitRole);
         }
     }

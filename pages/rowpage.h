@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QModelIndex>
+#include <QVector>
 
 class DataBuffer;
 class ListModel1;
@@ -50,8 +51,11 @@ protected:
     // Builds list from the table and the buffer. A page with rows of its own
     // making appends them here.
     virtual void initlist();
-    // The value of row i now, as initlist() reads it.
+    // The value of row i now, as initlist() reads it. A page that overrides
+    // it answers true from hasOwnValues(); the refresh of other pages reads
+    // the numbers of their rows straight from the buffer.
     virtual QVariant currentValue(int row) const;
+    virtual bool hasOwnValues() const;
     // A step on row landed on value: the default builds the row's frame and
     // sends it; a row that sends its group writes the value into the buffer
     // first and packs the frame from there. Pages with other needs override it.
@@ -82,7 +86,15 @@ protected:
     QList<ListData> list;
 
 private:
+    // Sorts the rows for the refresh, once per table.
+    void planRefresh();
+
     QList<Row> m_rows;
+    // The refresh's plan, a mark per row: NumberRow for a number from a
+    // byte or a 16-bit value, compared as ints (other rows are read through
+    // currentValue()); UnitRow for a row that follows the car's unit.
+    enum RefreshMark { NumberRow = 1, UnitRow = 2 };
+    QVector<quint8> m_refreshPlan;
     SendRoad m_road;
     bool m_showsStepAtOnce;
     // The buffer of m_bufferId: the module keeps each protocol's buffer at

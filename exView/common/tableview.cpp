@@ -1,5 +1,6 @@
 #include "tableview.h"
 
+#include "columnfit.h"
 #include "listdata.h"
 
 #include <QHeaderView>
@@ -16,6 +17,7 @@ TableView::TableView(QWidget *parent)
     // draw at the view's right edge and the zones that take their taps stay
     // in the same place.
     verticalScrollBar()->setStyleSheet(QStringLiteral("QScrollBar:vertical { width: 0px; }"));
+    ColumnFit::install(this);
 }
 
 TableView::~TableView()

@@ -119,6 +119,7 @@ protected:
     QList<Row> rowTable() const;
     void initlist();
     QVariant currentValue(int row) const;
+    bool hasOwnValues() const { return true; }
 };
 
 #endif // PAGES30_H

@@ -15,6 +15,7 @@ protected:
     // Charging and energy: the charging times go out as one group.
     QList<Row> rowTable() const;
     QVariant currentValue(int row) const;
+    bool hasOwnValues() const { return true; }
     void valueStepped(int row, int value);
 };
 

@@ -40,6 +40,7 @@ protected:
     QList<Row> rowTable() const;
     void initlist();
     QVariant currentValue(int row) const;
+    bool hasOwnValues() const { return true; }
 };
 
 class CarInfoItem72_5 : public MiddleRowPage
@@ -53,6 +54,7 @@ protected:
     QList<Row> rowTable() const;
     void initlist();
     QVariant currentValue(int row) const;
+    bool hasOwnValues() const { return true; }
 };
 
 class CarInfoItem72_6 : public MiddleRowPage
