@@ -70,4 +70,11 @@ install(FILES "${CMAKE_SOURCE_DIR}/packaging/copyright" DESTINATION "${_carcontr
 # A native package (its version has no Debian revision) calls it changelog.gz.
 install(FILES "${_carcontrol_docdir}/changelog.gz" DESTINATION "${_carcontrol_docdest}" COMPONENT doc)
 
+# The head unit's package lies outside Debian's file system layout on purpose;
+# its overrides say why.
+if(CARCONTROL_INSTALL_LAYOUT STREQUAL "headunit")
+    install(FILES "${CMAKE_SOURCE_DIR}/packaging/carcontrol-headunit.lintian-overrides"
+        DESTINATION /usr/share/lintian/overrides RENAME carcontrol-headunit COMPONENT doc)
+endif()
+
 include(CPack)
