@@ -64,7 +64,7 @@ headunit)
     machine=$(od -An -tu2 -j18 -N2 "$plugin" | tr -d ' ')
     [ "$header" = 1 ] && [ "$machine" = 40 ] || fail "$plugin is not a 32-bit ARM object"
     # Every picture: those the artwork holds, and every name the code gives
-    # imagePath() as it stands.
+    # imagePath() as it stands (names made with arguments are the artwork's).
     missing=0
     resources=/application/resource/carcontrol
     for file in $(cd "$build/resource/carcontrol" && find style4 exStyle4 -type f | sort); do
@@ -72,7 +72,7 @@ headunit)
     done
     for file in $(cd "$source" && grep -rhoE 'imagePath\((OverlayImages|ExtendedImages), *(QStringLiteral|QLatin1String)\("[^"]+"' \
             plugin dialogView exView pages reverse \
-            | sed -E 's/imagePath\(OverlayImages, *[A-Za-z0-9]+\("/style4\//; s/imagePath\(ExtendedImages, *[A-Za-z0-9]+\("/exStyle4\//; s/"$//' | sort -u); do
+            | sed -E 's/imagePath\(OverlayImages, *[A-Za-z0-9]+\("/style4\//; s/imagePath\(ExtendedImages, *[A-Za-z0-9]+\("/exStyle4\//; s/"$//' | grep -v '%' | sort -u); do
         [ -f "$root$resources/$file" ] || { echo "missing: $resources/$file" >&2; missing=1; }
     done
     [ "$missing" = 0 ] || fail "pictures missing from the package"
