@@ -8,6 +8,9 @@
 # is made once and kept, warnings as errors, and runs the unit tests under
 # qemu-arm. The simulator and the benchmarks are desktop-only.
 # `make check` runs the three, one after the other, as CI does.
+# `make package` makes the bench's Debian package from the desktop build into
+# build/packages; `make package-armhf` the head unit's from the armhf build
+# into build-armhf/packages.
 
 BUILD_DIR ?= build
 SANITIZE_DIR ?= build-sanitize
@@ -23,7 +26,7 @@ SANITIZER_ENV = ASAN_OPTIONS=detect_leaks=1:halt_on_error=1:detect_stack_use_aft
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp:print_suppressions=0
 
-.PHONY: all setup configure build test test-sanitize test-armhf check demo clean
+.PHONY: all setup configure build test test-sanitize test-armhf check demo clean package package-armhf
 
 all: build
 
@@ -57,6 +60,15 @@ check:
 	@$(MAKE) --no-print-directory test
 	@$(MAKE) --no-print-directory test-sanitize
 	@$(MAKE) --no-print-directory test-armhf
+
+package: build
+	@cd $(BUILD_DIR) && cpack
+
+package-armhf:
+	@if [ ! -f $(ARMHF_DIR)/CPackConfig.cmake ]; then \
+		echo "make package-armhf: no armhf build in $(ARMHF_DIR); run 'make test-armhf' first" >&2; exit 1; fi
+	@cmake --build $(ARMHF_DIR) -j $(JOBS)
+	@cd $(ARMHF_DIR) && cpack
 
 demo: build
 	@sh tools/demo.sh $(BUILD_DIR)

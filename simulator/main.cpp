@@ -150,16 +150,27 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
     return true;
 }
 
-// The build's plug-in directory and artwork serve when the environment
-// names none, so that the simulator runs from the build tree as it is.
+// Where the plug-ins, the artwork and the catalogue are, unless the
+// environment names them: beside the simulator when it is installed (the
+// bench package's tree, relative to bin/), else the build tree's.
 void setDefaultEnvironment()
 {
-    if (qEnvironmentVariableIsEmpty("CARCONTROL_PLUGIN_DIR") && QFileInfo::exists(QStringLiteral(SIMULATOR_PLUGIN_DIR)))
-        qputenv("CARCONTROL_PLUGIN_DIR", SIMULATOR_PLUGIN_DIR);
-    if (qEnvironmentVariableIsEmpty("CARCONTROL_RESOURCE_ROOT") && QFileInfo::exists(QStringLiteral(SIMULATOR_RESOURCE_ROOT)))
-        qputenv("CARCONTROL_RESOURCE_ROOT", SIMULATOR_RESOURCE_ROOT);
-    if (qEnvironmentVariableIsEmpty("CARCONTROL_CATALOGUE_FILE") && QFileInfo::exists(QStringLiteral(SIMULATOR_CATALOGUE_FILE)))
-        qputenv("CARCONTROL_CATALOGUE_FILE", SIMULATOR_CATALOGUE_FILE);
+    const QDir bin = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
+    auto setDefault = [&bin](const char *name, QString const &installed, QString const &built) {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return;
+        const QString path = QDir::cleanPath(bin.filePath(installed));
+        if (QFileInfo::exists(path))
+            qputenv(name, QFile::encodeName(path));
+        else if (QFileInfo::exists(built))
+            qputenv(name, QFile::encodeName(built));
+    };
+    setDefault("CARCONTROL_PLUGIN_DIR", QStringLiteral(SIMULATOR_INSTALLED_PLUGIN_DIR),
+               QStringLiteral(SIMULATOR_PLUGIN_DIR));
+    setDefault("CARCONTROL_RESOURCE_ROOT", QStringLiteral(SIMULATOR_INSTALLED_RESOURCE_ROOT),
+               QStringLiteral(SIMULATOR_RESOURCE_ROOT));
+    setDefault("CARCONTROL_CATALOGUE_FILE", QStringLiteral(SIMULATOR_INSTALLED_CATALOGUE_FILE),
+               QStringLiteral(SIMULATOR_CATALOGUE_FILE));
 }
 
 bool hasDisplay()
