@@ -1,5 +1,8 @@
 #include "demo.h"
 
+#include "hostsim.h"
+#include "simulatorhost.h"
+
 #include <QFile>
 
 namespace Demo {
@@ -22,6 +25,22 @@ Scenario::Result run(Scenario::Runner &runner, QString const &resource)
 }
 
 } // namespace
+
+void selectProtocol(SimulatorHost &host, int protocolId)
+{
+    HostSim::setProtocolId(protocolId);
+    host.call(QStringLiteral("setProtocolId"), {protocolId});
+}
+
+Scenario::Result startCar(SimulatorHost &host, int protocolId)
+{
+    if (protocolId == ProtocolId)
+        return loadData(host);
+    // Other cars show values that the catalogue knows their rows take.
+    host.box().writeSamples(protocolId);
+    selectProtocol(host, protocolId);
+    return Scenario::Result();
+}
 
 Scenario::Result loadData(SimulatorHost &host)
 {

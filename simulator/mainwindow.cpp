@@ -141,15 +141,9 @@ QWidget *MainWindow::makeCommandLine()
 
 void MainWindow::startDemoCar(int protocolId)
 {
-    if (protocolId == Demo::ProtocolId) {
-        const Scenario::Result result = Demo::loadData(m_host);
-        if (result.status != Scenario::Passed)
-            showStatus(result.message, true);
-    } else {
-        // Other cars show values that the catalogue knows their rows take.
-        m_host.box().writeSamples(protocolId);
-    }
-    m_car->selectProtocol(protocolId);
+    const Scenario::Result result = Demo::startCar(m_host, protocolId);
+    if (result.status != Scenario::Passed)
+        showStatus(result.message, true);
     reloadPanels();
 }
 

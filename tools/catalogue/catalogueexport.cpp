@@ -262,7 +262,9 @@ int sampleValue(ListData const &data, int zeroValue)
 
 QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row const *tableRow, int protocolId)
 {
-    QJsonObject row{{"title", tableRow ? QString::fromUtf8(tableRow->title()) : data.title},
+    // The title as the page shows it: some pages number or complete their
+    // table's titles ("0km ordinate" from "km ordinate").
+    QJsonObject row{{"title", data.title.isEmpty() && tableRow ? QString::fromUtf8(tableRow->title()) : data.title},
                     {"kind", data.kind},
                     {"unit", data.unit},
                     {"factor", data.factor},
@@ -543,6 +545,32 @@ QString sourceText(QJsonObject const &source)
     return QString();
 }
 
+// The kinds of rows by what their value shows, in the order of their
+// numbers.
+const char *const kindNames[] = {
+    "choice", "percent", "temperature", "electric", "pressure", "number", "engine speed",
+    "speed", "distance", "unscaled", "text", "time span", "time of day", "suffixed",
+};
+
+QString kindText(int kind)
+{
+    const int count = int(sizeof kindNames / sizeof kindNames[0]);
+    return kind >= 0 && kind < count ? QString::fromLatin1(kindNames[kind]) : QString::number(kind);
+}
+
+// A family whose every page opens empty: titles, no rows, no widgets of
+// its own.
+bool withoutRows(QJsonObject const &family)
+{
+    const QJsonArray pages = family.value("pages").toArray();
+    for (QJsonValue const &p : pages) {
+        const QJsonObject page = p.toObject();
+        if (page.value("ownWidgets").toBool() || !page.value("rows").toArray().isEmpty())
+            return false;
+    }
+    return !pages.isEmpty();
+}
+
 } // namespace
 
 QString reference(QJsonObject const &catalogue)
@@ -557,6 +585,37 @@ QString reference(QJsonObject const &catalogue)
     text += QStringLiteral("Adjustable rows answered: %1 of %2.\n\n")
                 .arg(catalogue.value("answered").toInt())
                 .arg(catalogue.value("adjustable").toInt());
+    text += QStringLiteral("A row's kind says how its value shows: ");
+    QStringList kinds;
+    for (int kind = 0; kind < int(sizeof kindNames / sizeof kindNames[0]); ++kind)
+        kinds << QStringLiteral("%1 %2").arg(kind).arg(QLatin1String(kindNames[kind]));
+    text += kinds.join(QStringLiteral(", ")) + QStringLiteral(".\n\n");
+
+    QStringList empty;
+    int emptyIds = 0;
+    int pages = 0;
+    int emptyPages = 0;
+    for (QJsonValue const &f : catalogue.value("families").toArray()) {
+        for (QJsonValue const &p : f.toObject().value("pages").toArray()) {
+            ++pages;
+            if (!p.toObject().value("ownWidgets").toBool() && p.toObject().value("rows").toArray().isEmpty())
+                ++emptyPages;
+        }
+        if (!withoutRows(f.toObject()))
+            continue;
+        empty << QString::number(f.toObject().value("family").toInt());
+        emptyIds += f.toObject().value("ids").toArray().size();
+    }
+    if (emptyPages)
+        text += QStringLiteral("%1 of the %2 pages have no rows: the catalogue names these pages and their titles "
+                               "and nothing more, so they open empty. %3 families (%4 protocol ids) have no page "
+                               "with rows at all: families %5.\n\n")
+                    .arg(emptyPages)
+                    .arg(pages)
+                    .arg(empty.size())
+                    .arg(emptyIds)
+                    .arg(empty.join(QStringLiteral(", ")));
+
     for (QJsonValue const &f : catalogue.value("families").toArray()) {
         const QJsonObject family = f.toObject();
         QStringList ids;
@@ -567,6 +626,8 @@ QString reference(QJsonObject const &catalogue)
                     .arg(ids.join(QStringLiteral(", ")))
                     .arg(family.value("answered").toInt())
                     .arg(family.value("adjustable").toInt());
+        if (withoutRows(family))
+            text += QStringLiteral("Its pages have no rows: each opens empty.\n\n");
         for (QJsonValue const &p : family.value("pages").toArray()) {
             const QJsonObject page = p.toObject();
             text += QStringLiteral("### %1. %2 (`%3`)\n\n")
@@ -574,6 +635,10 @@ QString reference(QJsonObject const &catalogue)
                         .arg(page.value("title").toString(), page.value("class").toString());
             if (page.value("ownWidgets").toBool()) {
                 text += QStringLiteral("A page of its own widgets.\n\n");
+                continue;
+            }
+            if (page.value("rows").toArray().isEmpty()) {
+                text += QStringLiteral("No rows.\n\n");
                 continue;
             }
             text += QStringLiteral("| # | Row | Kind | Buffer | Steps | First frame | Answered |\n"
@@ -590,7 +655,7 @@ QString reference(QJsonObject const &catalogue)
                 text += QStringLiteral("| %1 | %2 | %3 | %4 | %5 | %6 | %7 |\n")
                             .arg(i)
                             .arg(cell(row.value("title").toString()))
-                            .arg(row.value("kind").toInt())
+                            .arg(kindText(row.value("kind").toInt()))
                             .arg(sourceText(row.value("source").toObject()))
                             .arg(steps.isEmpty() ? QString() : QString::number(steps.size()))
                             .arg(steps.isEmpty() ? QString()
