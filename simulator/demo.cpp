@@ -36,10 +36,16 @@ Scenario::Result startCar(SimulatorHost &host, int protocolId)
 {
     if (protocolId == ProtocolId)
         return loadData(host);
-    // Other cars show values that the catalogue knows their rows take.
-    host.box().writeSamples(protocolId);
+    Scenario::Result result = writeSamples(host, protocolId);
     selectProtocol(host, protocolId);
-    return Scenario::Result();
+    return result;
+}
+
+Scenario::Result writeSamples(SimulatorHost &host, int protocolId)
+{
+    host.box().writeSamples(protocolId);
+    Scenario::Runner runner(host);
+    return run(runner, QStringLiteral(":/demo/sample-data.scn"));
 }
 
 Scenario::Result loadData(SimulatorHost &host)

@@ -22,6 +22,10 @@ void selectProtocol(SimulatorHost &host, int protocolId);
 // A car on protocolId with data: the demo car's on its own protocol, the
 // catalogue's sample values on the others.
 Scenario::Result startCar(SimulatorHost &host, int protocolId);
+// The sample data of a car other than the demo car: the catalogue's sample
+// values, then demo/sample-data.scn for the rows that read the climate
+// record or read their buffer by their own rules.
+Scenario::Result writeSamples(SimulatorHost &host, int protocolId);
 
 // Fills the host with the demo car's data, selects protocol 28 and tells
 // the root.

@@ -1,6 +1,7 @@
 #include "gallery.h"
 
 #include "catalogue.h"
+#include "demo.h"
 #include "eventpump.h"
 #include "hostsim.h"
 #include "scenario.h"
@@ -101,7 +102,9 @@ Scenario::Result write(SimulatorHost &host, QString const &directory, QList<int>
         HostSim::reset();
         if (!run(runner, QStringLiteral("protocol %1").arg(protocolId), &result))
             return result;
-        host.box().writeSamples(protocolId);
+        result = Demo::writeSamples(host, protocolId);
+        if (result.status != Scenario::Passed)
+            return result;
         if (!run(runner, QStringLiteral("call showExView"), &result))
             return result;
         QAbstractItemView *list = host.probe().titleList();

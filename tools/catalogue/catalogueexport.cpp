@@ -250,11 +250,21 @@ QJsonObject sourceOf(Row const *tableRow)
 // buffer (a choice may be the context of other rows, such as a unit or a
 // mode, and the frames were taken in that context); a number from the
 // middle of its range.
+// A choice whose option says that the car reports nothing ("null"), where
+// the row has other options to show.
+bool isNullChoice(ListData const &data, int value)
+{
+    return data.kind == ChoiceKind && data.options.size() > 1 && value >= 0 && value < data.options.size()
+        && data.options.at(value).toString() == QLatin1String("null");
+}
+
 int sampleValue(ListData const &data, int zeroValue)
 {
     const int n = data.options.size();
-    if (data.kind == ChoiceKind)
-        return zeroValue >= 0 && zeroValue < n ? zeroValue : 0;
+    if (data.kind == ChoiceKind) {
+        const int value = zeroValue >= 0 && zeroValue < n ? zeroValue : 0;
+        return isNullChoice(data, value) ? (value + 1) % n : value;
+    }
     if (n >= 2 && data.options.first().type() != QVariant::String)
         return (data.options.first().toInt() + data.options.at(n == 2 || n == 3 ? n - 1 : 1).toInt()) / 2;
     return 1;
@@ -401,7 +411,8 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     row["answered"] = answered;
 
     // The demo value: for a choice the step to its value on a zeroed
-    // buffer, else the middle step, that the car can report.
+    // buffer, else the middle step, that the car can report; never a
+    // choice's "null" where it has other options.
     int first = steps.size() / 2;
     for (int i = 0; data.kind == ChoiceKind && i < steps.size(); ++i) {
         if (steps.at(i).toObject().value("value").toInt() == start)
@@ -409,10 +420,18 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     }
     for (int i = 0; i < steps.size(); ++i) {
         QJsonObject const step = steps.at((first + i) % steps.size()).toObject();
-        if (step.value("shows").toBool()) {
+        if (step.value("shows").toBool() && !isNullChoice(data, step.value("value").toInt())) {
             row["sample"] = QJsonObject{{"value", step.value("value")}, {"writes", step.value("writes")}};
             break;
         }
+    }
+    // A row that the car can't be made to report by a step still shows a
+    // value that its place can hold.
+    if (!row.contains("sample") && tableRow) {
+        const int value = sampleValue(data, start);
+        const std::optional<Writes> place = PageRunner::placeFor(*tableRow, value);
+        if (place && runner.shows(index, *place, value))
+            row["sample"] = QJsonObject{{"value", value}, {"writes", toJson(*place)}};
     }
     return row;
 }
