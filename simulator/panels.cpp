@@ -182,10 +182,11 @@ void CarPanel::showProtocol(int protocolId)
     QString text = tr("none: the extended view's list stays empty");
     if (family && !pages)
         text = tr("family %1").arg(family);
-    else if (family && m_host.box().rowCount(protocolId))
-        text = tr("family %1, %n page(s)", nullptr, pages).arg(family);
+    else if (family && !m_host.box().hasOnlyEmptyPages(protocolId))
+        text = pages == 1 ? tr("family %1, 1 page").arg(family) : tr("family %1, %2 pages").arg(family).arg(pages);
     else if (family)
-        text = tr("family %1, %n page(s), none with rows", nullptr, pages).arg(family);
+        text = pages == 1 ? tr("family %1, 1 page, without rows").arg(family)
+                          : tr("family %1, %2 pages, none with rows").arg(family).arg(pages);
     m_family->setText(text);
 }
 

@@ -67,10 +67,11 @@ private slots:
     void screenButtonsAndKeys();
     void carPanels();
     void bufferEditorAndFrameLog();
+    void protocolChangeReopensViews();
 
 private:
     QWidget *screenPart(QString const &name) const { return m_host->probe().part(name); }
-    bool shown(QString const &name) const { return ScreenProbe::isShown(screenPart(name)); }
+    bool shown(QString const &name) const { return m_host->probe().isOnScreen(screenPart(name)); }
 
     SimulatorHost *m_host = nullptr;
     MainWindow *m_window = nullptr;
@@ -81,6 +82,7 @@ void TestSimulatorWindow::initTestCase()
     m_host = new SimulatorHost;
     QString error;
     QVERIFY2(m_host->load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(m_host->loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
     HostSim::setReversePluginFile(SimulatorHost::defaultReversePluginFile(SimulatorHost::defaultPluginFile()));
     m_window = new MainWindow(*m_host);
     m_window->startDemoCar(28);
@@ -103,26 +105,28 @@ void TestSimulatorWindow::screenAndProtocolPicker()
     QVERIFY(m_window->isAncestorOf(screen));
     QVERIFY(screen->isVisible());
 
-    // Every protocol id of the catalogue, with its family, after "no vehicle".
+    // Every protocol id of the catalogue, named by its family's first pages,
+    // after "no vehicle".
     auto *picker = m_window->findChild<QComboBox *>("protocolPicker");
     QVERIFY(picker);
     const QList<int> ids = Catalogue::protocolIds();
     QCOMPARE(ids.size(), 74);
     QCOMPARE(picker->count(), ids.size() + 1);
     QCOMPARE(picker->itemData(0).toInt(), 0);
-    for (int i = 0; i < ids.size(); ++i) {
+    for (int i = 0; i < ids.size(); ++i)
         QCOMPARE(picker->itemData(i + 1).toInt(), ids.at(i));
-        QCOMPARE(picker->itemText(i + 1), QString("%1: family %2").arg(ids.at(i)).arg(Catalogue::familyOf(ids.at(i))));
-    }
+    QCOMPARE(picker->itemText(picker->findData(28)), QString("28: Parking assist status, Amplifier status, ..."));
+    QCOMPARE(picker->itemText(picker->findData(30)), QString("30: Tire pressure information, Hybrid information, ..."));
+    QCOMPARE(picker->itemText(picker->findData(53)), picker->itemText(picker->findData(31)).replace("31:", "53:"));
 
     // The demo car on protocol 28; a pick selects the next id and tells the
     // root, whose next extended view holds that protocol's pages.
     QCOMPARE(CanObj::id(), 28);
     QCOMPARE(picker->currentData().toInt(), 28);
-    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("CarExView28"));
+    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("family 28, 8 pages"));
     QTest::keyClick(picker, Qt::Key_Down);
     QCOMPARE(CanObj::id(), 29);
-    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("CarExView29"));
+    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("family 29, 3 pages, none with rows"));
     QTest::keyClick(picker, Qt::Key_Up);
     QCOMPARE(CanObj::id(), 28);
 
@@ -291,6 +295,49 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
         QTest::keyClick(line, Qt::Key_Return);
     }
     QCOMPARE(lastRow(frames).mid(1), (QStringList{"FD 06 90 7E 00 01 14", "FD", "90"}));
+}
+
+void TestSimulatorWindow::protocolChangeReopensViews()
+{
+    // On a page of 28 in both extended views, another protocol picked: both
+    // views are left and opened again, with the new protocol's list of
+    // pages, as a person would leave and open them.
+    auto *picker = m_window->findChild<QComboBox *>("protocolPicker");
+    HostSim::pressBarButton(HostSim::lastBaseBar(), "home");
+    EventPump::settle();
+    QVERIFY(!m_host->probe().findObject("exView"));
+    m_window->startDemoCar(28);
+    QCOMPARE(picker->currentData().toInt(), 28);
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QString missing;
+    QVERIFY2(m_host->input().tapTitle(1, &missing), qPrintable(missing));
+    EventPump::settle();
+    QVERIFY(shown("page"));
+    click(withText<QPushButton>(m_window, "Second extended view"));
+    QVERIFY(shown("exDialogView"));
+    QVERIFY(!shown("exView"));
+
+    QTest::keyClick(picker, Qt::Key_Down);
+    EventPump::settle();
+    QCOMPARE(CanObj::id(), 29);
+    QVERIFY(shown("exDialogView"));
+    QVERIFY(shown("list"));
+    QCOMPARE(m_host->probe().titleList()->model()->rowCount(), 3);
+    auto *first = qobject_cast<QWidget *>(m_host->probe().findObject("exView"));
+    QVERIFY(first && !first->isHidden());
+    QAbstractItemView *firstList = first->findChild<QAbstractItemView *>("listView");
+    QVERIFY(firstList && firstList->isVisibleTo(first));
+    QCOMPARE(firstList->model()->rowCount(), 3);
+
+    // Without an open view the pick opens none.
+    click(withText<QPushButton>(m_window, "Back"));
+    click(withText<QPushButton>(m_window, "Back"));
+    QVERIFY(!m_host->probe().findObject("exView"));
+    QVERIFY(!m_host->probe().findObject("exDialogView"));
+    QTest::keyClick(picker, Qt::Key_Up);
+    EventPump::settle();
+    QCOMPARE(CanObj::id(), 28);
+    QVERIFY(!m_host->probe().findObject("exView"));
 }
 
 QTEST_MAIN(TestSimulatorWindow)
