@@ -18,6 +18,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTime>
 #include <QTimer>
@@ -56,6 +57,8 @@ char const Usage[] =
     "  --clock HH:MM       the head unit's clock stands at this time (--demo and\n"
     "                      --gallery: 10:08 unless given)\n"
     "  --list-protocols    print every protocol id with its family's first pages\n"
+    "  --zoom PERCENT      the window's screen at 50 to 100 per cent of its size\n"
+    "                      (default: what fits the desktop)\n"
     "  --plugin FILE       the car control plug-in (default:\n"
     "                      $CARCONTROL_PLUGIN_DIR/libcarcontrol.so)\n"
     "  --reverse-plugin FILE  the reverse plug-in (default: libreversesample.so\n"
@@ -80,6 +83,7 @@ struct Options
     int protocol = Demo::ProtocolId;
     bool protocolGiven = false;
     QTime clock;
+    int zoom = 0;
     bool listProtocols = false;
     bool version = false;
     bool window = false;
@@ -147,6 +151,16 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
             options->clock = QTime::fromString(text, QStringLiteral("HH:mm"));
             if (!options->clock.isValid()) {
                 *error = QStringLiteral("--clock %1 is no time of the form HH:MM").arg(text);
+                return false;
+            }
+        } else if (arg == QLatin1String("--zoom")) {
+            QString text;
+            bool ok = false;
+            if (!value(&text))
+                return false;
+            options->zoom = text.toInt(&ok);
+            if (!ok || options->zoom < 50 || options->zoom > 100) {
+                *error = QStringLiteral("--zoom %1 is not a percentage from 50 to 100").arg(text);
                 return false;
             }
         } else if (arg == QLatin1String("--list-protocols")) {
@@ -411,7 +425,12 @@ int main(int argc, char *argv[])
         return status;
     }
 
-    MainWindow window(host);
+    // A desktop smaller than the window at its real size gets the screen
+    // scaled; a headless run keeps it at its size.
+    int zoom = options.zoom;
+    if (!zoom && QGuiApplication::platformName() != QLatin1String("offscreen") && QGuiApplication::primaryScreen())
+        zoom = MainWindow::fittingZoom(QGuiApplication::primaryScreen()->availableGeometry().size());
+    MainWindow window(host, zoom ? zoom : 100);
     if (options.script.isEmpty())
         window.startDemoCar(options.protocol);
     // In the window the car answers: the box is on.

@@ -15,9 +15,11 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTreeWidget>
@@ -68,6 +70,8 @@ private slots:
     void carPanels();
     void bufferEditorAndFrameLog();
     void protocolChangeReopensViews();
+    // Last: it takes the screen into a window of its own.
+    void zoomedWindowFitsALaptop();
 
 private:
     QWidget *screenPart(QString const &name) const { return m_host->probe().part(name); }
@@ -338,6 +342,41 @@ void TestSimulatorWindow::protocolChangeReopensViews()
     EventPump::settle();
     QCOMPARE(CanObj::id(), 28);
     QVERIFY(!m_host->probe().findObject("exView"));
+}
+
+void TestSimulatorWindow::zoomedWindowFitsALaptop()
+{
+    // On a 1366 x 768 desktop the screen is drawn smaller, so that the whole
+    // window fits; a desktop of 1920 x 1080 takes it at its size.
+    QCOMPARE(MainWindow::fittingZoom(QSize(1920, 1080)), 100);
+    const int zoom = MainWindow::fittingZoom(QSize(1366, 768));
+    QVERIFY(zoom >= 50 && zoom < 100);
+    HostSim::pressBarButton(HostSim::lastBaseBar(), "home");
+    EventPump::settle();
+    m_window->startDemoCar(28);
+
+    MainWindow zoomed(*m_host, zoom);
+    zoomed.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&zoomed));
+    EventPump::settle();
+    QVERIFY2(zoomed.width() <= 1366 && zoomed.height() <= 768 - 30,
+             qPrintable(QString("%1 x %2").arg(zoomed.width()).arg(zoomed.height())));
+    QTRY_VERIFY(zoomed.windowTitle().endsWith(QString("(screen at %1%)").arg(zoom)));
+    auto *view = zoomed.findChild<QGraphicsView *>("zoomedScreen");
+    QVERIFY(view);
+    QCOMPARE(view->size(), QSize(1024, 600) * zoom / 100);
+
+    // A finger on the drawn screen lands on the widget under it, at the
+    // screen's own coordinates: the second title opens its page.
+    click(withText<QPushButton>(&zoomed, "Extended view"));
+    QAbstractItemView *list = m_host->probe().titleList();
+    QVERIFY(list && shown("list"));
+    const QRect title = list->visualRect(list->model()->index(1, 0));
+    const QPoint onScreen = list->viewport()->mapTo(m_host->screen(), title.center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->mapFromScene(onScreen));
+    EventPump::settle();
+    QVERIFY(shown("page"));
+    QCOMPARE(m_host->probe().pageStack()->currentIndex(), 1);
 }
 
 QTEST_MAIN(TestSimulatorWindow)
