@@ -13,6 +13,7 @@
 #include "radardata.h"
 #include "simulatorhost.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -79,6 +80,11 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
                              id);
     }
     m_protocols->setMaxVisibleItems(20);
+    // The names are long: the picker keeps to the panel's width and the
+    // open list shows them whole.
+    m_protocols->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_protocols->setMinimumContentsLength(24);
+    m_protocols->view()->setMinimumWidth(m_protocols->view()->sizeHintForColumn(0));
     vehicleForm->addRow(tr("Protocol"), m_protocols);
     vehicleForm->addRow(tr("Page stack"), m_family);
     vehicleForm->addRow(m_rightDriver);
