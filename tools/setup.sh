@@ -8,7 +8,7 @@
 #                           unpacks the armhf Qt (tools/armhf-sysroot.sh)
 set -eu
 
-PACKAGES="cmake make g++ ccache qtbase5-dev qtbase5-dev-tools dpkg-dev lintian \
+PACKAGES="cmake make g++ ccache qtbase5-dev qtbase5-dev-tools qttools5-dev-tools dpkg-dev lintian \
 fonts-dejavu-core fonts-wqy-microhei"
 
 for group in "$@"; do

@@ -1,0 +1,26 @@
+#include "translation.h"
+
+#include "carlog.h"
+#include "imagepaths.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+
+void followLocale()
+{
+    static QTranslator *translator = 0;
+    static QString loadedLocale;
+    const QLocale locale;
+    if (translator && locale.name() == loadedLocale)
+        return;
+    if (!translator)
+        translator = new QTranslator(QCoreApplication::instance());
+    else
+        QCoreApplication::removeTranslator(translator);
+    loadedLocale = locale.name();
+    if (translator->load(locale, QStringLiteral("carcontrol"), QStringLiteral("_"), translationsPath())) {
+        QCoreApplication::installTranslator(translator);
+        CAR_LOG("Translation") << "texts in" << loadedLocale;
+    }
+}
