@@ -43,15 +43,15 @@
     <name>CarExView102</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
 </context>
 <context>
@@ -66,22 +66,22 @@
     </message>
     <message>
         <source>Amplifier Information</source>
-        <translation type="unfinished"></translation>
+        <translation>功放信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView105</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>On-board computer information</source>
@@ -112,7 +112,7 @@
     <name>CarExView122</name>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>Vehicle Information 1</source>
@@ -132,11 +132,11 @@
     </message>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
 </context>
 <context>
@@ -300,11 +300,11 @@
     </message>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle setting information</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
 </context>
 <context>
@@ -327,11 +327,11 @@
     </message>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Original car settings</source>
@@ -343,7 +343,7 @@
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>New energy setting information</source>
@@ -471,7 +471,7 @@
     <name>CarExView45</name>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>Vehicle Information 1</source>
@@ -498,27 +498,27 @@
     </message>
     <message>
         <source>SYNC information</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC信息</translation>
     </message>
     <message>
         <source>Seat massage</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅按摩</translation>
     </message>
     <message>
         <source>Power amplifier status</source>
-        <translation type="unfinished"></translation>
+        <translation>功放状态</translation>
     </message>
     <message>
         <source>Smart Xinfeng</source>
-        <translation type="unfinished"></translation>
+        <translation>智能新风</translation>
     </message>
     <message>
         <source>Set item status</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态</translation>
     </message>
     <message>
         <source>Basic Information</source>
-        <translation type="unfinished"></translation>
+        <translation>基本信息</translation>
     </message>
     <message>
         <source>Tire pressure information</source>
@@ -526,7 +526,7 @@
     </message>
     <message>
         <source>SYNC command</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC命令</translation>
     </message>
 </context>
 <context>
@@ -568,15 +568,15 @@
     </message>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
 </context>
 <context>
@@ -614,11 +614,11 @@
     </message>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>vehicle setup information</source>
@@ -630,7 +630,7 @@
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>automatic parking status</source>
@@ -645,15 +645,15 @@
     <name>CarExView65</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>Security Settings Status Information</source>
@@ -693,7 +693,7 @@
     </message>
     <message>
         <source>Basic Information</source>
-        <translation type="unfinished"></translation>
+        <translation>基本信息</translation>
     </message>
     <message>
         <source>Tire pressure display</source>
@@ -704,54 +704,54 @@
     <name>CarExView66</name>
     <message>
         <source>Basic Information</source>
-        <translation type="unfinished"></translation>
+        <translation>基本信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView67</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>Amplifier Information</source>
-        <translation type="unfinished"></translation>
+        <translation>功放信息</translation>
     </message>
     <message>
         <source>New energy setting information 5</source>
-        <translation type="unfinished"></translation>
+        <translation>新能源设置信息5</translation>
     </message>
     <message>
         <source>New energy setting information 4</source>
-        <translation type="unfinished"></translation>
+        <translation>新能源设置信息4</translation>
     </message>
     <message>
         <source>New energy setting information 3</source>
-        <translation type="unfinished"></translation>
+        <translation>新能源设置信息3</translation>
     </message>
     <message>
         <source>New energy setting information 2</source>
-        <translation type="unfinished"></translation>
+        <translation>新能源设置信息2</translation>
     </message>
     <message>
         <source>New energy setting information 1</source>
-        <translation type="unfinished"></translation>
+        <translation>新能源设置信息1</translation>
     </message>
     <message>
         <source>vehicle setup command</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置命令</translation>
     </message>
     <message>
         <source>Panoramic image status</source>
-        <translation type="unfinished"></translation>
+        <translation>全景影像状态</translation>
     </message>
     <message>
         <source>Tire pressure information</source>
@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>Basic body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身基本信息</translation>
     </message>
 </context>
 <context>
@@ -816,15 +816,15 @@
     <name>CarExView70</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>set item status</source>
@@ -839,15 +839,15 @@
     <name>CarExView71</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>body information</source>
@@ -858,15 +858,15 @@
     <name>CarExView72</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>List of potentials</source>
@@ -882,7 +882,7 @@
     </message>
     <message>
         <source>driving mode</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶模式</translation>
     </message>
     <message>
         <source>Tire pressure information</source>
@@ -921,15 +921,15 @@
     <name>CarExView74</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>body information</source>
@@ -956,15 +956,15 @@
     <name>CarExView78</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>body information</source>
@@ -979,15 +979,15 @@
     <name>CarExView79</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>body information</source>
@@ -1042,7 +1042,7 @@
     <name>CarExView86</name>
     <message>
         <source>Amplifier Information</source>
-        <translation type="unfinished"></translation>
+        <translation>功放信息</translation>
     </message>
     <message>
         <source>Trip computer information</source>
@@ -1053,7 +1053,7 @@
     <name>CarExView87</name>
     <message>
         <source>Amplifier Information</source>
-        <translation type="unfinished"></translation>
+        <translation>功放信息</translation>
     </message>
     <message>
         <source>Trip computer information</source>
@@ -1149,15 +1149,15 @@
     <name>CarExView96</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>body information</source>
@@ -1165,7 +1165,7 @@
     </message>
     <message>
         <source>Amplifier Information</source>
-        <translation type="unfinished"></translation>
+        <translation>功放信息</translation>
     </message>
     <message>
         <source>fuel consumption information</source>
@@ -1180,15 +1180,15 @@
     <name>CarExView97</name>
     <message>
         <source>Voice control feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制反馈</translation>
     </message>
     <message>
         <source>Function recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>功能识别</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息</translation>
     </message>
     <message>
         <source>body information</source>
@@ -1237,98 +1237,98 @@
     <name>CarInfoItem102_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem102_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -1336,67 +1336,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -1404,27 +1404,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -1436,54 +1436,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem102_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -1491,91 +1491,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -1583,23 +1583,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -1611,83 +1611,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -1695,105 +1695,105 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem105_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem105_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -1801,67 +1801,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -1869,27 +1869,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -1901,54 +1901,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem105_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -1956,91 +1956,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -2048,23 +2048,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -2076,83 +2076,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -2160,105 +2160,105 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem122_6</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem122_7</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -2266,67 +2266,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -2334,27 +2334,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -2366,54 +2366,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem122_8</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -2421,91 +2421,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -2513,23 +2513,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -2541,83 +2541,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -2648,7 +2648,7 @@
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Light info</source>
@@ -2699,11 +2699,11 @@
     <name>CarInfoItem124_2</name>
     <message>
         <source>10s</source>
-        <translation type="unfinished"></translation>
+        <translation>10s</translation>
     </message>
     <message>
         <source>120s</source>
-        <translation type="unfinished"></translation>
+        <translation>120s</translation>
     </message>
     <message>
         <source>15s</source>
@@ -2854,11 +2854,11 @@
     <name>CarInfoItem124_3</name>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>播放</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>暂停</translation>
     </message>
     <message>
         <source>Next</source>
@@ -2894,7 +2894,7 @@
     </message>
     <message>
         <source>CD</source>
-        <translation type="unfinished"></translation>
+        <translation>CD</translation>
     </message>
     <message>
         <source>DVD</source>
@@ -5864,98 +5864,98 @@
     <name>CarInfoItem32_2</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem32_3</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -5963,51 +5963,51 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -6015,27 +6015,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -6047,54 +6047,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem32_6</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -6102,91 +6102,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -6194,23 +6194,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -6222,43 +6222,43 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Vehicle settings</source>
@@ -6266,23 +6266,23 @@
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -6290,105 +6290,105 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem33_2</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem33_3</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -6396,51 +6396,51 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -6448,27 +6448,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -6480,54 +6480,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem33_6</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -6535,91 +6535,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -6627,23 +6627,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -6655,63 +6655,63 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -6719,7 +6719,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -7689,35 +7689,35 @@
     </message>
     <message>
         <source>Remote start seat automatic heating</source>
-        <translation type="unfinished"></translation>
+        <translation>远程启动座椅自动加热</translation>
     </message>
     <message>
         <source>Show wind speed automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>自动显示风速</translation>
     </message>
     <message>
         <source>Show wind speed value</source>
-        <translation type="unfinished"></translation>
+        <translation>显示风速值</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>开关</translation>
     </message>
     <message>
         <source>Unified settings</source>
-        <translation type="unfinished"></translation>
+        <translation>统一设置</translation>
     </message>
     <message>
         <source>Ventilation mode(20 types of smooth patrol)</source>
-        <translation type="unfinished"></translation>
+        <translation>通风模式（20款畅巡）</translation>
     </message>
     <message>
         <source>Ventilation only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅通风</translation>
     </message>
     <message>
         <source>Wind speed automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>风速自动</translation>
     </message>
     <message>
         <source>economy</source>
@@ -7725,7 +7725,7 @@
     </message>
     <message>
         <source>high</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>low</source>
@@ -7740,59 +7740,59 @@
     <name>CarInfoItem37_7</name>
     <message>
         <source>1</source>
-        <translation type="unfinished"></translation>
+        <translation>1</translation>
     </message>
     <message>
         <source>2</source>
-        <translation type="unfinished"></translation>
+        <translation>2</translation>
     </message>
     <message>
         <source>3</source>
-        <translation type="unfinished"></translation>
+        <translation>3</translation>
     </message>
     <message>
         <source>4</source>
-        <translation type="unfinished"></translation>
+        <translation>4</translation>
     </message>
     <message>
         <source>5</source>
-        <translation type="unfinished"></translation>
+        <translation>5</translation>
     </message>
     <message>
         <source>6</source>
-        <translation type="unfinished"></translation>
+        <translation>6</translation>
     </message>
     <message>
         <source>7</source>
-        <translation type="unfinished"></translation>
+        <translation>7</translation>
     </message>
     <message>
         <source>8</source>
-        <translation type="unfinished"></translation>
+        <translation>8</translation>
     </message>
     <message>
         <source>9</source>
-        <translation type="unfinished"></translation>
+        <translation>9</translation>
     </message>
     <message>
         <source>BC</source>
-        <translation type="unfinished"></translation>
+        <translation>BC</translation>
     </message>
     <message>
         <source>CD/MP3</source>
-        <translation type="unfinished"></translation>
+        <translation>CD/MP3</translation>
     </message>
     <message>
         <source>FM/AM</source>
-        <translation type="unfinished"></translation>
+        <translation>FM/AM</translation>
     </message>
     <message>
         <source>LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>NONE</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>OK</source>
@@ -7800,11 +7800,11 @@
     </message>
     <message>
         <source>RIGH</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>SETTING</source>
-        <translation type="unfinished"></translation>
+        <translation>设置</translation>
     </message>
 </context>
 <context>
@@ -7830,75 +7830,75 @@
     <name>CarInfoItem37_9</name>
     <message>
         <source>OnStar system off</source>
-        <translation type="unfinished"></translation>
+        <translation>安吉星系统已关闭</translation>
     </message>
     <message>
         <source>OnStar System on</source>
-        <translation type="unfinished"></translation>
+        <translation>安吉星系统已开启</translation>
     </message>
     <message>
         <source>Phone input</source>
-        <translation type="unfinished"></translation>
+        <translation>电话输入</translation>
     </message>
     <message>
         <source>Dialing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在拨号</translation>
     </message>
     <message>
         <source>Call connected</source>
-        <translation type="unfinished"></translation>
+        <translation>通话已接通</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>*</source>
-        <translation type="unfinished"></translation>
+        <translation>*</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>1</source>
-        <translation type="unfinished"></translation>
+        <translation>1</translation>
     </message>
     <message>
         <source>2</source>
-        <translation type="unfinished"></translation>
+        <translation>2</translation>
     </message>
     <message>
         <source>3</source>
-        <translation type="unfinished"></translation>
+        <translation>3</translation>
     </message>
     <message>
         <source>4</source>
-        <translation type="unfinished"></translation>
+        <translation>4</translation>
     </message>
     <message>
         <source>5</source>
-        <translation type="unfinished"></translation>
+        <translation>5</translation>
     </message>
     <message>
         <source>6</source>
-        <translation type="unfinished"></translation>
+        <translation>6</translation>
     </message>
     <message>
         <source>7</source>
-        <translation type="unfinished"></translation>
+        <translation>7</translation>
     </message>
     <message>
         <source>8</source>
-        <translation type="unfinished"></translation>
+        <translation>8</translation>
     </message>
     <message>
         <source>9</source>
-        <translation type="unfinished"></translation>
+        <translation>9</translation>
     </message>
     <message>
         <source>Answer</source>
-        <translation type="unfinished"></translation>
+        <translation>接听</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -7910,18 +7910,18 @@
     </message>
     <message>
         <source>call</source>
-        <translation type="unfinished"></translation>
+        <translation>呼叫</translation>
     </message>
     <message>
         <source>hang Up</source>
-        <translation type="unfinished"></translation>
+        <translation>挂断</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem48_1</name>
     <message>
         <source>American English</source>
-        <translation type="unfinished"></translation>
+        <translation>美式英语</translation>
     </message>
     <message>
         <source>Arabic</source>
@@ -7929,19 +7929,19 @@
     </message>
     <message>
         <source>Australian English</source>
-        <translation type="unfinished"></translation>
+        <translation>澳大利亚英语</translation>
     </message>
     <message>
         <source>Automatic parking status</source>
-        <translation type="unfinished"></translation>
+        <translation>自动泊车状态</translation>
     </message>
     <message>
         <source>British English</source>
-        <translation type="unfinished"></translation>
+        <translation>英式英语</translation>
     </message>
     <message>
         <source>Canadian French</source>
-        <translation type="unfinished"></translation>
+        <translation>加拿大法语</translation>
     </message>
     <message>
         <source>Czech</source>
@@ -7957,31 +7957,31 @@
     </message>
     <message>
         <source>Electric drive-battery with air conditioner</source>
-        <translation type="unfinished"></translation>
+        <translation>电驱-电池供空调</translation>
     </message>
     <message>
         <source>Electric drive-battery with motor</source>
-        <translation type="unfinished"></translation>
+        <translation>电驱-电池供电机</translation>
     </message>
     <message>
         <source>Electric drive-battery with other</source>
-        <translation type="unfinished"></translation>
+        <translation>电驱-电池供其他</translation>
     </message>
     <message>
         <source>Electric drive-drive with motor</source>
-        <translation type="unfinished"></translation>
+        <translation>电驱-电机驱动</translation>
     </message>
     <message>
         <source>Electric drive-motor with ngine</source>
-        <translation type="unfinished"></translation>
+        <translation>电驱-发动机带电机</translation>
     </message>
     <message>
         <source>Electric drive-the battery is pluggedIn</source>
-        <translation type="unfinished"></translation>
+        <translation>电驱-电池已插电</translation>
     </message>
     <message>
         <source>External radar failure</source>
-        <translation type="unfinished"></translation>
+        <translation>外部雷达故障</translation>
     </message>
     <message>
         <source>Finnish</source>
@@ -7993,7 +7993,7 @@
     </message>
     <message>
         <source>Front radar failure</source>
-        <translation type="unfinished"></translation>
+        <translation>前雷达故障</translation>
     </message>
     <message>
         <source>Front radar working status</source>
@@ -8013,7 +8013,7 @@
     </message>
     <message>
         <source>Latin Spanish</source>
-        <translation type="unfinished"></translation>
+        <translation>拉丁美洲西班牙语</translation>
     </message>
     <message>
         <source>Norwegian</source>
@@ -8029,15 +8029,15 @@
     </message>
     <message>
         <source>Oil driven_drive with engine</source>
-        <translation type="unfinished"></translation>
+        <translation>油驱-发动机驱动</translation>
     </message>
     <message>
         <source>Oil driven_fuel with engine</source>
-        <translation type="unfinished"></translation>
+        <translation>油驱-发动机耗油</translation>
     </message>
     <message>
         <source>Oil driven_motor with engine</source>
-        <translation type="unfinished"></translation>
+        <translation>油驱-发动机带电机</translation>
     </message>
     <message>
         <source>Parallel parking</source>
@@ -8045,11 +8045,11 @@
     </message>
     <message>
         <source>Parallel parking space</source>
-        <translation type="unfinished"></translation>
+        <translation>平行车位</translation>
     </message>
     <message>
         <source>Parking assist function</source>
-        <translation type="unfinished"></translation>
+        <translation>泊车辅助功能</translation>
     </message>
     <message>
         <source>Polish</source>
@@ -8061,15 +8061,15 @@
     </message>
     <message>
         <source>Portuguese Brazilian</source>
-        <translation type="unfinished"></translation>
+        <translation>巴西葡萄牙语</translation>
     </message>
     <message>
         <source>Radar status</source>
-        <translation type="unfinished"></translation>
+        <translation>雷达状态</translation>
     </message>
     <message>
         <source>Rear radar failure</source>
-        <translation type="unfinished"></translation>
+        <translation>后雷达故障</translation>
     </message>
     <message>
         <source>Rear radar working status</source>
@@ -8093,11 +8093,11 @@
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation>泰语</translation>
     </message>
     <message>
         <source>Traditional Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>繁体中文</translation>
     </message>
     <message>
         <source>Turkish</source>
@@ -8120,51 +8120,51 @@
     <name>CarInfoItem48_10</name>
     <message>
         <source>12 Fox, Yibo, Maverick, 13 Carnival</source>
-        <translation type="unfinished"></translation>
+        <translation>12款福克斯、翼搏、翼虎、13款嘉年华</translation>
     </message>
     <message>
         <source>17-18 Winged Tiger</source>
-        <translation type="unfinished"></translation>
+        <translation>17-18款翼虎</translation>
     </message>
     <message>
         <source>19 Taurus, 18 Mondeo hybrids</source>
-        <translation type="unfinished"></translation>
+        <translation>19款金牛座、18款蒙迪欧混动</translation>
     </message>
     <message>
         <source>19 Territory</source>
-        <translation type="unfinished"></translation>
+        <translation>19款领界</translation>
     </message>
     <message>
         <source>19 wing tigers</source>
-        <translation type="unfinished"></translation>
+        <translation>19款翼虎</translation>
     </message>
     <message>
         <source>19-20 Fox</source>
-        <translation type="unfinished"></translation>
+        <translation>19-20款福克斯</translation>
     </message>
     <message>
         <source>AM1</source>
-        <translation type="unfinished"></translation>
+        <translation>AM1</translation>
     </message>
     <message>
         <source>AM2</source>
-        <translation type="unfinished"></translation>
+        <translation>AM2</translation>
     </message>
     <message>
         <source>CD Control</source>
-        <translation type="unfinished"></translation>
+        <translation>CD控制</translation>
     </message>
     <message>
         <source>CD-play Track</source>
-        <translation type="unfinished"></translation>
+        <translation>CD播放曲目</translation>
     </message>
     <message>
         <source>Compass function</source>
-        <translation type="unfinished"></translation>
+        <translation>指南针功能</translation>
     </message>
     <message>
         <source>Compass-direction</source>
-        <translation type="unfinished"></translation>
+        <translation>指南针-方向</translation>
     </message>
     <message>
         <source>DISC</source>
@@ -8172,11 +8172,11 @@
     </message>
     <message>
         <source>Demolition SYNC</source>
-        <translation type="unfinished"></translation>
+        <translation>拆除SYNC</translation>
     </message>
     <message>
         <source>East</source>
-        <translation type="unfinished"></translation>
+        <translation>东</translation>
     </message>
     <message>
         <source>FM1</source>
@@ -8188,31 +8188,31 @@
     </message>
     <message>
         <source>High dividend</source>
-        <translation type="unfinished"></translation>
+        <translation>高配</translation>
     </message>
     <message>
         <source>Low profile</source>
-        <translation type="unfinished"></translation>
+        <translation>低配</translation>
     </message>
     <message>
         <source>Mid-range</source>
-        <translation type="unfinished"></translation>
+        <translation>中配</translation>
     </message>
     <message>
         <source>Model settings</source>
-        <translation type="unfinished"></translation>
+        <translation>车型设置</translation>
     </message>
     <message>
         <source>Model settings-Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>车型设置-配置</translation>
     </message>
     <message>
         <source>Next track</source>
-        <translation type="unfinished"></translation>
+        <translation>下一曲</translation>
     </message>
     <message>
         <source>North</source>
-        <translation type="unfinished"></translation>
+        <translation>北</translation>
     </message>
     <message>
         <source>Northeast</source>
@@ -8232,43 +8232,43 @@
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>暂停</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>播放</translation>
     </message>
     <message>
         <source>Previous track</source>
-        <translation type="unfinished"></translation>
+        <translation>上一曲</translation>
     </message>
     <message>
         <source>Radio frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>收音频率</translation>
     </message>
     <message>
         <source>Radio-preset station</source>
-        <translation type="unfinished"></translation>
+        <translation>收音-预设电台</translation>
     </message>
     <message>
         <source>Random folder</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹随机</translation>
     </message>
     <message>
         <source>Random track</source>
-        <translation type="unfinished"></translation>
+        <translation>曲目随机</translation>
     </message>
     <message>
         <source>Repeat folder</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹循环</translation>
     </message>
     <message>
         <source>Repeat track</source>
-        <translation type="unfinished"></translation>
+        <translation>单曲循环</translation>
     </message>
     <message>
         <source>South</source>
-        <translation type="unfinished"></translation>
+        <translation>南</translation>
     </message>
     <message>
         <source>Southeast</source>
@@ -8280,11 +8280,11 @@
     </message>
     <message>
         <source>TUNER</source>
-        <translation type="unfinished"></translation>
+        <translation>收音机</translation>
     </message>
     <message>
         <source>West</source>
-        <translation type="unfinished"></translation>
+        <translation>西</translation>
     </message>
     <message>
         <source>null</source>
@@ -8292,106 +8292,106 @@
     </message>
     <message>
         <source>source</source>
-        <translation type="unfinished"></translation>
+        <translation>音源</translation>
     </message>
     <message>
         <source>source parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>音源参数</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem48_2</name>
     <message>
         <source>1</source>
-        <translation type="unfinished"></translation>
+        <translation>1</translation>
     </message>
     <message>
         <source>2</source>
-        <translation type="unfinished"></translation>
+        <translation>2</translation>
     </message>
     <message>
         <source>3</source>
-        <translation type="unfinished"></translation>
+        <translation>3</translation>
     </message>
     <message>
         <source>4</source>
-        <translation type="unfinished"></translation>
+        <translation>4</translation>
     </message>
     <message>
         <source>5</source>
-        <translation type="unfinished"></translation>
+        <translation>5</translation>
     </message>
     <message>
         <source>6</source>
-        <translation type="unfinished"></translation>
+        <translation>6</translation>
     </message>
     <message>
         <source>AM1</source>
-        <translation type="unfinished"></translation>
+        <translation>AM1</translation>
     </message>
     <message>
         <source>AM2</source>
-        <translation type="unfinished"></translation>
+        <translation>AM2</translation>
     </message>
     <message>
         <source>ASKII</source>
-        <translation type="unfinished"></translation>
+        <translation>ASCII</translation>
     </message>
     <message>
         <source>CD</source>
-        <translation type="unfinished"></translation>
+        <translation>CD</translation>
     </message>
     <message>
         <source>CD Pre-made station number or line number</source>
-        <translation type="unfinished"></translation>
+        <translation>CD预设电台号或行号</translation>
     </message>
     <message>
         <source>CD character format</source>
-        <translation type="unfinished"></translation>
+        <translation>CD字符格式</translation>
     </message>
     <message>
         <source>CD list</source>
-        <translation type="unfinished"></translation>
+        <translation>CD列表</translation>
     </message>
     <message>
         <source>CD loop</source>
-        <translation type="unfinished"></translation>
+        <translation>CD循环</translation>
     </message>
     <message>
         <source>CD playback status</source>
-        <translation type="unfinished"></translation>
+        <translation>CD播放状态</translation>
     </message>
     <message>
         <source>CD random</source>
-        <translation type="unfinished"></translation>
+        <translation>CD随机</translation>
     </message>
     <message>
         <source>CD source</source>
-        <translation type="unfinished"></translation>
+        <translation>CD音源</translation>
     </message>
     <message>
         <source>CD status</source>
-        <translation type="unfinished"></translation>
+        <translation>CD状态</translation>
     </message>
     <message>
         <source>CD-current time</source>
-        <translation type="unfinished"></translation>
+        <translation>CD-当前时间</translation>
     </message>
     <message>
         <source>CD-current track</source>
-        <translation type="unfinished"></translation>
+        <translation>CD-当前曲目</translation>
     </message>
     <message>
         <source>CD-total repertoire</source>
-        <translation type="unfinished"></translation>
+        <translation>CD-曲目总数</translation>
     </message>
     <message>
         <source>CD-total time</source>
-        <translation type="unfinished"></translation>
+        <translation>CD-总时间</translation>
     </message>
     <message>
         <source>Disc error</source>
-        <translation type="unfinished"></translation>
+        <translation>碟片错误</translation>
     </message>
     <message>
         <source>Don&apos;t show</source>
@@ -8399,7 +8399,7 @@
     </message>
     <message>
         <source>Ejecting disc</source>
-        <translation type="unfinished"></translation>
+        <translation>正在出碟</translation>
     </message>
     <message>
         <source>FM1</source>
@@ -8411,15 +8411,15 @@
     </message>
     <message>
         <source>FM3</source>
-        <translation type="unfinished"></translation>
+        <translation>FM3</translation>
     </message>
     <message>
         <source>Is not</source>
-        <translation type="unfinished"></translation>
+        <translation>否</translation>
     </message>
     <message>
         <source>No CD</source>
-        <translation type="unfinished"></translation>
+        <translation>无CD</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -8431,82 +8431,82 @@
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>播放</translation>
     </message>
     <message>
         <source>Radio</source>
-        <translation type="unfinished"></translation>
+        <translation>收音机</translation>
     </message>
     <message>
         <source>Radio Pre-made radio</source>
-        <translation type="unfinished"></translation>
+        <translation>收音预设电台</translation>
     </message>
     <message>
         <source>Radio band</source>
-        <translation type="unfinished"></translation>
+        <translation>收音波段</translation>
     </message>
     <message>
         <source>Radio frequency</source>
-        <translation type="unfinished"></translation>
+        <translation>收音频率</translation>
     </message>
     <message>
         <source>Reading disc</source>
-        <translation type="unfinished"></translation>
+        <translation>正在读碟</translation>
     </message>
     <message>
         <source>Unicode</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode</translation>
     </message>
     <message>
         <source>pause</source>
-        <translation type="unfinished"></translation>
+        <translation>暂停</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem48_3</name>
     <message>
         <source>Available</source>
-        <translation type="unfinished"></translation>
+        <translation>可用</translation>
     </message>
     <message>
         <source>Bluetooth device connection bit</source>
-        <translation type="unfinished"></translation>
+        <translation>蓝牙设备连接位</translation>
     </message>
     <message>
         <source>Call status</source>
-        <translation type="unfinished"></translation>
+        <translation>通话状态</translation>
     </message>
     <message>
         <source>Can be selected</source>
-        <translation type="unfinished"></translation>
+        <translation>可选</translation>
     </message>
     <message>
         <source>Cell phone signal status</source>
-        <translation type="unfinished"></translation>
+        <translation>手机信号状态</translation>
     </message>
     <message>
         <source>Current SYNC System Version</source>
-        <translation type="unfinished"></translation>
+        <translation>当前SYNC系统版本</translation>
     </message>
     <message>
         <source>Current dialog type</source>
-        <translation type="unfinished"></translation>
+        <translation>当前对话框类型</translation>
     </message>
     <message>
         <source>Current menu type</source>
-        <translation type="unfinished"></translation>
+        <translation>当前菜单类型</translation>
     </message>
     <message>
         <source>Current row attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>当前行属性</translation>
     </message>
     <message>
         <source>Current row attributes-SelectRow</source>
-        <translation type="unfinished"></translation>
+        <translation>当前行属性-选中行</translation>
     </message>
     <message>
         <source>DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>下</translation>
     </message>
     <message>
         <source>Don&apos;t show</source>
@@ -8514,47 +8514,47 @@
     </message>
     <message>
         <source>INFO button status under SYNC MEDIA menu</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC媒体菜单下INFO键状态</translation>
     </message>
     <message>
         <source>Large icon of current menu</source>
-        <translation type="unfinished"></translation>
+        <translation>当前菜单大图标</translation>
     </message>
     <message>
         <source>Line number</source>
-        <translation type="unfinished"></translation>
+        <translation>行号</translation>
     </message>
     <message>
         <source>MEDIA</source>
-        <translation type="unfinished"></translation>
+        <translation>媒体</translation>
     </message>
     <message>
         <source>Menu percentage display bar properties</source>
-        <translation type="unfinished"></translation>
+        <translation>菜单百分比显示条属性</translation>
     </message>
     <message>
         <source>MenuItem display percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>菜单项显示百分比</translation>
     </message>
     <message>
         <source>NONE</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>No SYNC module</source>
-        <translation type="unfinished"></translation>
+        <translation>无SYNC模块</translation>
     </message>
     <message>
         <source>Non-calling state</source>
-        <translation type="unfinished"></translation>
+        <translation>非通话状态</translation>
     </message>
     <message>
         <source>Non-voice state</source>
-        <translation type="unfinished"></translation>
+        <translation>非语音状态</translation>
     </message>
     <message>
         <source>Not selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>不可选</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -8566,130 +8566,130 @@
     </message>
     <message>
         <source>PHONE</source>
-        <translation type="unfinished"></translation>
+        <translation>电话</translation>
     </message>
     <message>
         <source>Phone battery status</source>
-        <translation type="unfinished"></translation>
+        <translation>手机电量状态</translation>
     </message>
     <message>
         <source>Phone call status bit</source>
-        <translation type="unfinished"></translation>
+        <translation>电话通话状态位</translation>
     </message>
     <message>
         <source>Phone talk time</source>
-        <translation type="unfinished"></translation>
+        <translation>通话时长</translation>
     </message>
     <message>
         <source>SMS display position</source>
-        <translation type="unfinished"></translation>
+        <translation>短信显示位置</translation>
     </message>
     <message>
         <source>SYNC VERSION NONE</source>
-        <translation type="unfinished"></translation>
+        <translation>无SYNC版本</translation>
     </message>
     <message>
         <source>SYNC VERSION V1</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC版本V1</translation>
     </message>
     <message>
         <source>SYNC VERSION V2</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC版本V2</translation>
     </message>
     <message>
         <source>SYNC VERSION V3</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC版本V3</translation>
     </message>
     <message>
         <source>SYNC current working mode</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC当前工作模式</translation>
     </message>
     <message>
         <source>SYNC device presence bit</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC设备存在位</translation>
     </message>
     <message>
         <source>SYNC voice status bit</source>
-        <translation type="unfinished"></translation>
+        <translation>SYNC语音状态位</translation>
     </message>
     <message>
         <source>Selected item in current dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>当前对话框选中项</translation>
     </message>
     <message>
         <source>Show SMS icon</source>
-        <translation type="unfinished"></translation>
+        <translation>显示短信图标</translation>
     </message>
     <message>
         <source>The currently selected item in the menu</source>
-        <translation type="unfinished"></translation>
+        <translation>菜单当前选中项</translation>
     </message>
     <message>
         <source>Track play time</source>
-        <translation type="unfinished"></translation>
+        <translation>曲目播放时间</translation>
     </message>
     <message>
         <source>UP</source>
-        <translation type="unfinished"></translation>
+        <translation>上</translation>
     </message>
     <message>
         <source>UP DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>上下</translation>
     </message>
     <message>
         <source>Voice status</source>
-        <translation type="unfinished"></translation>
+        <translation>语音状态</translation>
     </message>
     <message>
         <source>With SYNC module</source>
-        <translation type="unfinished"></translation>
+        <translation>有SYNC模块</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>已连接</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>未连接</translation>
     </message>
     <message>
         <source>unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>不可用</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem48_4</name>
     <message>
         <source>Adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>调节</translation>
     </message>
     <message>
         <source>Driver side adjustment-high</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员侧调节-高</translation>
     </message>
     <message>
         <source>Driver side adjustment-medium</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员侧调节-中</translation>
     </message>
     <message>
         <source>Driver side function</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员侧功能</translation>
     </message>
     <message>
         <source>Driving side adjustment-low</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员侧调节-低</translation>
     </message>
     <message>
         <source>Driving side massage backrest</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员侧按摩靠背</translation>
     </message>
     <message>
         <source>Driving side massage cushion</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员侧按摩坐垫</translation>
     </message>
     <message>
         <source>Functional status</source>
-        <translation type="unfinished"></translation>
+        <translation>功能状态</translation>
     </message>
     <message>
         <source>Have</source>
@@ -8697,7 +8697,7 @@
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -8705,35 +8705,35 @@
     </message>
     <message>
         <source>Passenger function</source>
-        <translation type="unfinished"></translation>
+        <translation>乘客功能</translation>
     </message>
     <message>
         <source>Passenger side adjustment-high</source>
-        <translation type="unfinished"></translation>
+        <translation>乘客侧调节-高</translation>
     </message>
     <message>
         <source>Passenger side adjustment-low</source>
-        <translation type="unfinished"></translation>
+        <translation>乘客侧调节-低</translation>
     </message>
     <message>
         <source>Passenger side adjustment-medium</source>
-        <translation type="unfinished"></translation>
+        <translation>乘客侧调节-中</translation>
     </message>
     <message>
         <source>Passenger side massage backrest</source>
-        <translation type="unfinished"></translation>
+        <translation>乘客侧按摩靠背</translation>
     </message>
     <message>
         <source>Passenger side massage cushion</source>
-        <translation type="unfinished"></translation>
+        <translation>乘客侧按摩坐垫</translation>
     </message>
     <message>
         <source>high</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>massage</source>
-        <translation type="unfinished"></translation>
+        <translation>按摩</translation>
     </message>
     <message>
         <source>without</source>
@@ -8748,19 +8748,19 @@
     </message>
     <message>
         <source>All round</source>
-        <translation type="unfinished"></translation>
+        <translation>全方位</translation>
     </message>
     <message>
         <source>Back seat</source>
-        <translation type="unfinished"></translation>
+        <translation>后排</translation>
     </message>
     <message>
         <source>Driving side</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶侧</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低</translation>
     </message>
     <message>
         <source>Midrange</source>
@@ -8772,19 +8772,19 @@
     </message>
     <message>
         <source>Reset all</source>
-        <translation type="unfinished"></translation>
+        <translation>全部复位</translation>
     </message>
     <message>
         <source>Sound effect mode</source>
-        <translation type="unfinished"></translation>
+        <translation>音效模式</translation>
     </message>
     <message>
         <source>SpeedAnd volume adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>速度音量调节</translation>
     </message>
     <message>
         <source>Surround sound</source>
-        <translation type="unfinished"></translation>
+        <translation>环绕声</translation>
     </message>
     <message>
         <source>Treble</source>
@@ -8792,15 +8792,15 @@
     </message>
     <message>
         <source>Whole car</source>
-        <translation type="unfinished"></translation>
+        <translation>全车</translation>
     </message>
     <message>
         <source>attenuation</source>
-        <translation type="unfinished"></translation>
+        <translation>衰减</translation>
     </message>
     <message>
         <source>balance</source>
-        <translation type="unfinished"></translation>
+        <translation>平衡</translation>
     </message>
     <message>
         <source>bass</source>
@@ -8808,11 +8808,11 @@
     </message>
     <message>
         <source>high</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>中</translation>
     </message>
     <message>
         <source>stereo</source>
@@ -8827,19 +8827,19 @@
     <name>CarInfoItem48_6</name>
     <message>
         <source>Ambient light-Adaptive</source>
-        <translation type="unfinished"></translation>
+        <translation>氛围灯-自适应</translation>
     </message>
     <message>
         <source>Ambient light-brightness value</source>
-        <translation type="unfinished"></translation>
+        <translation>氛围灯-亮度值</translation>
     </message>
     <message>
         <source>Ambient light-colour</source>
-        <translation type="unfinished"></translation>
+        <translation>氛围灯-颜色</translation>
     </message>
     <message>
         <source>Battery charging</source>
-        <translation type="unfinished"></translation>
+        <translation>电池充电</translation>
     </message>
     <message>
         <source>Battery energy</source>
@@ -8851,39 +8851,39 @@
     </message>
     <message>
         <source>Can be pressed</source>
-        <translation type="unfinished"></translation>
+        <translation>可按下</translation>
     </message>
     <message>
         <source>Can&apos;t press</source>
-        <translation type="unfinished"></translation>
+        <translation>不可按下</translation>
     </message>
     <message>
         <source>Charging high voltage battery</source>
-        <translation type="unfinished"></translation>
+        <translation>高压电池充电中</translation>
     </message>
     <message>
         <source>Cockpit fresh air</source>
-        <translation type="unfinished"></translation>
+        <translation>座舱新风</translation>
     </message>
     <message>
         <source>Driving force demand</source>
-        <translation type="unfinished"></translation>
+        <translation>驱动力需求</translation>
     </message>
     <message>
         <source>Earthy yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>土黄色</translation>
     </message>
     <message>
         <source>Engine brake start</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机制动启动</translation>
     </message>
     <message>
         <source>Engine temperature is too low</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机温度过低</translation>
     </message>
     <message>
         <source>Fuel maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>燃油维护</translation>
     </message>
     <message>
         <source>Green</source>
@@ -8895,31 +8895,31 @@
     </message>
     <message>
         <source>Heater demand</source>
-        <translation type="unfinished"></translation>
+        <translation>暖风需求</translation>
     </message>
     <message>
         <source>Hybrid drive</source>
-        <translation type="unfinished"></translation>
+        <translation>混合驱动</translation>
     </message>
     <message>
         <source>Inside the car PM 2.5</source>
-        <translation type="unfinished"></translation>
+        <translation>车内PM2.5</translation>
     </message>
     <message>
         <source>Low speed</source>
-        <translation type="unfinished"></translation>
+        <translation>低速</translation>
     </message>
     <message>
         <source>Low utilization</source>
-        <translation type="unfinished"></translation>
+        <translation>低利用率</translation>
     </message>
     <message>
         <source>Neutral</source>
-        <translation type="unfinished"></translation>
+        <translation>空挡</translation>
     </message>
     <message>
         <source>Normal operation</source>
-        <translation type="unfinished"></translation>
+        <translation>正常运行</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -8927,19 +8927,19 @@
     </message>
     <message>
         <source>Pink</source>
-        <translation type="unfinished"></translation>
+        <translation>粉色</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>紫色</translation>
     </message>
     <message>
         <source>Reason 1</source>
-        <translation type="unfinished"></translation>
+        <translation>原因1</translation>
     </message>
     <message>
         <source>Reason 2</source>
-        <translation type="unfinished"></translation>
+        <translation>原因2</translation>
     </message>
     <message>
         <source>Red</source>
@@ -8947,23 +8947,23 @@
     </message>
     <message>
         <source>Sky blue</source>
-        <translation type="unfinished"></translation>
+        <translation>天蓝色</translation>
     </message>
     <message>
         <source>Time to fully charge</source>
-        <translation type="unfinished"></translation>
+        <translation>充满电时间</translation>
     </message>
     <message>
         <source>Too fast</source>
-        <translation type="unfinished"></translation>
+        <translation>过快</translation>
     </message>
     <message>
         <source>Vehicle energy status</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆能量状态</translation>
     </message>
     <message>
         <source>battery temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>电池温度</translation>
     </message>
     <message>
         <source>blue</source>
@@ -8971,39 +8971,39 @@
     </message>
     <message>
         <source>charging completed</source>
-        <translation type="unfinished"></translation>
+        <translation>充电完成</translation>
     </message>
     <message>
         <source>electric drive</source>
-        <translation type="unfinished"></translation>
+        <translation>电驱</translation>
     </message>
     <message>
         <source>engine drive</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机驱动</translation>
     </message>
     <message>
         <source>fast charging</source>
-        <translation type="unfinished"></translation>
+        <translation>快充</translation>
     </message>
     <message>
         <source>fast charging completed</source>
-        <translation type="unfinished"></translation>
+        <translation>快充完成</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>绿色</translation>
     </message>
     <message>
         <source>ice blue</source>
-        <translation type="unfinished"></translation>
+        <translation>冰蓝色</translation>
     </message>
     <message>
         <source>idling</source>
-        <translation type="unfinished"></translation>
+        <translation>怠速</translation>
     </message>
     <message>
         <source>idling charging</source>
-        <translation type="unfinished"></translation>
+        <translation>怠速充电</translation>
     </message>
     <message>
         <source>orange</source>
@@ -9019,11 +9019,11 @@
     </message>
     <message>
         <source>remotely started</source>
-        <translation type="unfinished"></translation>
+        <translation>已远程启动</translation>
     </message>
     <message>
         <source>soft blue</source>
-        <translation type="unfinished"></translation>
+        <translation>柔蓝色</translation>
     </message>
     <message>
         <source>without</source>
@@ -9034,39 +9034,39 @@
     <name>CarInfoItem48_7</name>
     <message>
         <source>10 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>10分钟</translation>
     </message>
     <message>
         <source>10s</source>
-        <translation type="unfinished"></translation>
+        <translation>10s</translation>
     </message>
     <message>
         <source>120s</source>
-        <translation type="unfinished"></translation>
+        <translation>120s</translation>
     </message>
     <message>
         <source>15 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>15分钟</translation>
     </message>
     <message>
         <source>20s</source>
-        <translation type="unfinished"></translation>
+        <translation>20s</translation>
     </message>
     <message>
         <source>5 minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>5分钟</translation>
     </message>
     <message>
         <source>Activate remote start</source>
-        <translation type="unfinished"></translation>
+        <translation>启用远程启动</translation>
     </message>
     <message>
         <source>Active braking</source>
-        <translation type="unfinished"></translation>
+        <translation>主动制动</translation>
     </message>
     <message>
         <source>Adaptive</source>
-        <translation type="unfinished"></translation>
+        <translation>自适应</translation>
     </message>
     <message>
         <source>Air conditioning control</source>
@@ -9078,27 +9078,27 @@
     </message>
     <message>
         <source>Ambient light</source>
-        <translation type="unfinished"></translation>
+        <translation>氛围灯</translation>
     </message>
     <message>
         <source>Assist</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助</translation>
     </message>
     <message>
         <source>Automatic engine shutdown</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机自动熄火</translation>
     </message>
     <message>
         <source>Automatic folding</source>
-        <translation type="unfinished"></translation>
+        <translation>自动折叠</translation>
     </message>
     <message>
         <source>Automatic high beam</source>
-        <translation type="unfinished"></translation>
+        <translation>自动远光灯</translation>
     </message>
     <message>
         <source>Automatically unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>自动解锁</translation>
     </message>
     <message>
         <source>BAR</source>
@@ -9106,19 +9106,19 @@
     </message>
     <message>
         <source>Blind spot monitoring</source>
-        <translation type="unfinished"></translation>
+        <translation>盲区监测</translation>
     </message>
     <message>
         <source>Cockpit fresh air</source>
-        <translation type="unfinished"></translation>
+        <translation>座舱新风</translation>
     </message>
     <message>
         <source>Cruise control</source>
-        <translation type="unfinished"></translation>
+        <translation>定速巡航</translation>
     </message>
     <message>
         <source>Distance reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>车距提醒</translation>
     </message>
     <message>
         <source>Driver&apos;s door only</source>
@@ -9126,19 +9126,19 @@
     </message>
     <message>
         <source>Electric trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>电动后备箱</translation>
     </message>
     <message>
         <source>False lock warning</source>
-        <translation type="unfinished"></translation>
+        <translation>误锁警告</translation>
     </message>
     <message>
         <source>Fatigue driving warning</source>
-        <translation type="unfinished"></translation>
+        <translation>疲劳驾驶警告</translation>
     </message>
     <message>
         <source>Headlight delay</source>
-        <translation type="unfinished"></translation>
+        <translation>大灯延时</translation>
     </message>
     <message>
         <source>KPA</source>
@@ -9146,7 +9146,7 @@
     </message>
     <message>
         <source>Lane keeping mode</source>
-        <translation type="unfinished"></translation>
+        <translation>车道保持模式</translation>
     </message>
     <message>
         <source>Last set</source>
@@ -9154,7 +9154,7 @@
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -9174,55 +9174,55 @@
     </message>
     <message>
         <source>Rain sensor wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨量感应雨刮</translation>
     </message>
     <message>
         <source>Rear wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>后雨刮</translation>
     </message>
     <message>
         <source>Remote control off</source>
-        <translation type="unfinished"></translation>
+        <translation>遥控关闭</translation>
     </message>
     <message>
         <source>Remote control on</source>
-        <translation type="unfinished"></translation>
+        <translation>遥控开启</translation>
     </message>
     <message>
         <source>Remote unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>遥控解锁</translation>
     </message>
     <message>
         <source>Repeat wiper once</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮补刮一次</translation>
     </message>
     <message>
         <source>Reverse gear coming warning</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车来车警告</translation>
     </message>
     <message>
         <source>Sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>灵敏度</translation>
     </message>
     <message>
         <source>Steering wheel heating and seat air conditioning</source>
-        <translation type="unfinished"></translation>
+        <translation>方向盘加热与座椅空调</translation>
     </message>
     <message>
         <source>Switch prohibited</source>
-        <translation type="unfinished"></translation>
+        <translation>禁止切换</translation>
     </message>
     <message>
         <source>TCS traction control</source>
-        <translation type="unfinished"></translation>
+        <translation>TCS牵引力控制</translation>
     </message>
     <message>
         <source>Temperature unit</source>
-        <translation type="unfinished"></translation>
+        <translation>温度单位</translation>
     </message>
     <message>
         <source>Tire pressure unit</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压单位</translation>
     </message>
     <message>
         <source>Unit of measure</source>
@@ -9230,15 +9230,15 @@
     </message>
     <message>
         <source>Voice Feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>语音反馈</translation>
     </message>
     <message>
         <source>Warn + assist</source>
-        <translation type="unfinished"></translation>
+        <translation>警告+辅助</translation>
     </message>
     <message>
         <source>Warning intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>警告强度</translation>
     </message>
     <message>
         <source>automatic</source>
@@ -9246,7 +9246,7 @@
     </message>
     <message>
         <source>cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>循环</translation>
     </message>
     <message>
         <source>freed</source>
@@ -9254,19 +9254,19 @@
     </message>
     <message>
         <source>high</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>km&amp;km/l</source>
-        <translation type="unfinished"></translation>
+        <translation>km&amp;km/l</translation>
     </message>
     <message>
         <source>km&amp;l/100km </source>
-        <translation type="unfinished"></translation>
+        <translation>km&amp;l/100km </translation>
     </message>
     <message>
         <source>mi&amp;mpg </source>
-        <translation type="unfinished"></translation>
+        <translation>mi&amp;mpg </translation>
     </message>
     <message>
         <source>standard</source>
@@ -9274,7 +9274,7 @@
     </message>
     <message>
         <source>warn</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>℃</source>
@@ -9289,15 +9289,15 @@
     <name>CarInfoItem48_8</name>
     <message>
         <source>0s</source>
-        <translation type="unfinished"></translation>
+        <translation>0s</translation>
     </message>
     <message>
         <source>10m</source>
-        <translation type="unfinished"></translation>
+        <translation>10m</translation>
     </message>
     <message>
         <source>15m</source>
-        <translation type="unfinished"></translation>
+        <translation>15m</translation>
     </message>
     <message>
         <source>15s</source>
@@ -9305,11 +9305,11 @@
     </message>
     <message>
         <source>1m</source>
-        <translation type="unfinished"></translation>
+        <translation>1m</translation>
     </message>
     <message>
         <source>2m</source>
-        <translation type="unfinished"></translation>
+        <translation>2m</translation>
     </message>
     <message>
         <source>30s</source>
@@ -9317,11 +9317,11 @@
     </message>
     <message>
         <source>3m</source>
-        <translation type="unfinished"></translation>
+        <translation>3m</translation>
     </message>
     <message>
         <source>5m</source>
-        <translation type="unfinished"></translation>
+        <translation>5m</translation>
     </message>
     <message>
         <source>60s</source>
@@ -9329,11 +9329,11 @@
     </message>
     <message>
         <source>After defrosting time</source>
-        <translation type="unfinished"></translation>
+        <translation>除霜后时间</translation>
     </message>
     <message>
         <source>Ambient light settings</source>
-        <translation type="unfinished"></translation>
+        <translation>氛围灯设置</translation>
     </message>
     <message>
         <source>Ambient temperature information</source>
@@ -9341,7 +9341,7 @@
     </message>
     <message>
         <source>Auto headlight sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>自动大灯灵敏度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -9349,39 +9349,39 @@
     </message>
     <message>
         <source>Backlight adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>背光调节</translation>
     </message>
     <message>
         <source>Buzzer alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>蜂鸣器报警</translation>
     </message>
     <message>
         <source>Enhanced parking assist</source>
-        <translation type="unfinished"></translation>
+        <translation>增强型泊车辅助</translation>
     </message>
     <message>
         <source>Flashes 1 time</source>
-        <translation type="unfinished"></translation>
+        <translation>闪烁1次</translation>
     </message>
     <message>
         <source>Flashes 3 time</source>
-        <translation type="unfinished"></translation>
+        <translation>闪烁3次</translation>
     </message>
     <message>
         <source>Indoor lamp time</source>
-        <translation type="unfinished"></translation>
+        <translation>室内灯时间</translation>
     </message>
     <message>
         <source>Information tone</source>
-        <translation type="unfinished"></translation>
+        <translation>信息提示音</translation>
     </message>
     <message>
         <source>Instrument arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>仪表方向键</translation>
     </message>
     <message>
         <source>Intelligent unlocking</source>
-        <translation type="unfinished"></translation>
+        <translation>智能解锁</translation>
     </message>
     <message>
         <source>KM</source>
@@ -9389,7 +9389,7 @@
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低</translation>
     </message>
     <message>
         <source>MILE</source>
@@ -9401,11 +9401,11 @@
     </message>
     <message>
         <source>MileageUnit</source>
-        <translation type="unfinished"></translation>
+        <translation>里程单位</translation>
     </message>
     <message>
         <source>No amplification</source>
-        <translation type="unfinished"></translation>
+        <translation>无放大</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -9417,11 +9417,11 @@
     </message>
     <message>
         <source>Oil life</source>
-        <translation type="unfinished"></translation>
+        <translation>机油寿命</translation>
     </message>
     <message>
         <source>Rain sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>雨量传感器</translation>
     </message>
     <message>
         <source>Ramp start assist</source>
@@ -9429,63 +9429,63 @@
     </message>
     <message>
         <source>Rear view keep</source>
-        <translation type="unfinished"></translation>
+        <translation>后视保持</translation>
     </message>
     <message>
         <source>Rear view split screen</source>
-        <translation type="unfinished"></translation>
+        <translation>后视分屏</translation>
     </message>
     <message>
         <source>Rearview mirror folding mode</source>
-        <translation type="unfinished"></translation>
+        <translation>后视镜折叠模式</translation>
     </message>
     <message>
         <source>Remaining oil</source>
-        <translation type="unfinished"></translation>
+        <translation>剩余油量</translation>
     </message>
     <message>
         <source>Remote control car window</source>
-        <translation type="unfinished"></translation>
+        <translation>遥控车窗</translation>
     </message>
     <message>
         <source>Restricted</source>
-        <translation type="unfinished"></translation>
+        <translation>受限</translation>
     </message>
     <message>
         <source>Reversing video zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车影像放大</translation>
     </message>
     <message>
         <source>Speed lock</source>
-        <translation type="unfinished"></translation>
+        <translation>车速落锁</translation>
     </message>
     <message>
         <source>Stay with me home</source>
-        <translation type="unfinished"></translation>
+        <translation>伴我回家</translation>
     </message>
     <message>
         <source>Traction control system</source>
-        <translation type="unfinished"></translation>
+        <translation>牵引力控制系统</translation>
     </message>
     <message>
         <source>Turn signal  setting</source>
-        <translation type="unfinished"></translation>
+        <translation>转向灯设置</translation>
     </message>
     <message>
         <source>Warning tone</source>
-        <translation type="unfinished"></translation>
+        <translation>警告音</translation>
     </message>
     <message>
         <source>Welcome light duration</source>
-        <translation type="unfinished"></translation>
+        <translation>迎宾灯时长</translation>
     </message>
     <message>
         <source>Wireless charging</source>
-        <translation type="unfinished"></translation>
+        <translation>无线充电</translation>
     </message>
     <message>
         <source>Zoomed in</source>
-        <translation type="unfinished"></translation>
+        <translation>放大</translation>
     </message>
     <message>
         <source>automatic</source>
@@ -9493,7 +9493,7 @@
     </message>
     <message>
         <source>charging indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>充电指示</translation>
     </message>
     <message>
         <source>driven distance</source>
@@ -9501,11 +9501,11 @@
     </message>
     <message>
         <source>high</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>中</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -9520,7 +9520,7 @@
     </message>
     <message>
         <source>Front left tire pressure temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>左前胎温</translation>
     </message>
     <message>
         <source>Front right tire</source>
@@ -9528,11 +9528,11 @@
     </message>
     <message>
         <source>Front right tire temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>右前胎温</translation>
     </message>
     <message>
         <source>High voltage warning</source>
-        <translation type="unfinished"></translation>
+        <translation>高压警告</translation>
     </message>
     <message>
         <source>Left front tire pressure value</source>
@@ -9544,23 +9544,23 @@
     </message>
     <message>
         <source>Loss of signal</source>
-        <translation type="unfinished"></translation>
+        <translation>信号丢失</translation>
     </message>
     <message>
         <source>Low pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>低压警告</translation>
     </message>
     <message>
         <source>Low pressure warning and quick leak</source>
-        <translation type="unfinished"></translation>
+        <translation>低压警告并快速漏气</translation>
     </message>
     <message>
         <source>Low sensor power</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器电量低</translation>
     </message>
     <message>
         <source>Rapid leakage</source>
-        <translation type="unfinished"></translation>
+        <translation>快速漏气</translation>
     </message>
     <message>
         <source>Rear left tire</source>
@@ -9568,7 +9568,7 @@
     </message>
     <message>
         <source>Rear left tire temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>左后胎温</translation>
     </message>
     <message>
         <source>Rear right tire</source>
@@ -9576,7 +9576,7 @@
     </message>
     <message>
         <source>Rear right tire temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>右后胎温</translation>
     </message>
     <message>
         <source>Right front tire pressure value</source>
@@ -9588,7 +9588,7 @@
     </message>
     <message>
         <source>Sensor error</source>
-        <translation type="unfinished"></translation>
+        <translation>传感器错误</translation>
     </message>
     <message>
         <source>normal</source>
@@ -9599,98 +9599,98 @@
     <name>CarInfoItem56_2</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem56_3</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -9698,67 +9698,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -9766,27 +9766,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -9798,54 +9798,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem56_6</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -9853,91 +9853,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -9945,23 +9945,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -9973,83 +9973,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -10057,7 +10057,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -10151,98 +10151,98 @@
     <name>CarInfoItem64_2</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem64_3</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -10250,67 +10250,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -10318,27 +10318,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -10350,43 +10350,43 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -10397,7 +10397,7 @@
     </message>
     <message>
         <source>10s</source>
-        <translation type="unfinished"></translation>
+        <translation>10s</translation>
     </message>
     <message>
         <source>3 times</source>
@@ -10737,7 +10737,7 @@
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>紫色</translation>
     </message>
     <message>
         <source>Quick control-windows</source>
@@ -10857,7 +10857,7 @@
     </message>
     <message>
         <source>high</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>just disappear the prompt</source>
@@ -10877,7 +10877,7 @@
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>中</translation>
     </message>
     <message>
         <source>portable</source>
@@ -10924,11 +10924,11 @@
     <name>CarInfoItem64_5</name>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>复位</translation>
     </message>
     <message>
         <source>Front left tire pressure temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>左前胎温</translation>
     </message>
     <message>
         <source>Front left tire warning-Sensor battery low</source>
@@ -10964,7 +10964,7 @@
     </message>
     <message>
         <source>Front right tire temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>右前胎温</translation>
     </message>
     <message>
         <source>Front right tire warning-fast leak</source>
@@ -11008,7 +11008,7 @@
     </message>
     <message>
         <source>Rear left tire temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>左后胎温</translation>
     </message>
     <message>
         <source>Rear left tire warning-Sensor battery low</source>
@@ -11044,7 +11044,7 @@
     </message>
     <message>
         <source>Rear right tire temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>右后胎温</translation>
     </message>
     <message>
         <source>Rear right tire warning-Sensor battery low</source>
@@ -11092,7 +11092,7 @@
     </message>
     <message>
         <source>have</source>
-        <translation type="unfinished"></translation>
+        <translation>有</translation>
     </message>
     <message>
         <source>none</source>
@@ -11103,11 +11103,11 @@
     <name>CarInfoItem64_6</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -11115,83 +11115,83 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -11199,23 +11199,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -11227,83 +11227,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -11311,7 +11311,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -11512,98 +11512,98 @@
     <name>CarInfoItem65_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem65_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -11611,67 +11611,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -11679,27 +11679,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -11711,54 +11711,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem65_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -11766,91 +11766,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -11858,23 +11858,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -11886,83 +11886,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -11970,153 +11970,153 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_10</name>
     <message>
         <source>Air conditioning system-air recirculation(activated after using glass water)</source>
-        <translation type="unfinished"></translation>
+        <translation>空调系统-空气内循环（使用玻璃水后启用）</translation>
     </message>
     <message>
         <source>Air conditioning system-automatic temperature adjustment and cycle control</source>
-        <translation type="unfinished"></translation>
+        <translation>空调系统-自动温度调节与循环控制</translation>
     </message>
     <message>
         <source>Baltic Sea Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>波罗的海蓝</translation>
     </message>
     <message>
         <source>Barcelona Red</source>
-        <translation type="unfinished"></translation>
+        <translation>巴塞罗那红</translation>
     </message>
     <message>
         <source>Brightness level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度1级</translation>
     </message>
     <message>
         <source>Brightness level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度2级</translation>
     </message>
     <message>
         <source>Brightness level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度3级</translation>
     </message>
     <message>
         <source>Brightness level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>亮度4级</translation>
     </message>
     <message>
         <source>Coffee</source>
-        <translation type="unfinished"></translation>
+        <translation>咖啡色</translation>
     </message>
     <message>
         <source>Colorful Clouds</source>
-        <translation type="unfinished"></translation>
+        <translation>七彩祥云</translation>
     </message>
     <message>
         <source>Desert Gold</source>
-        <translation type="unfinished"></translation>
+        <translation>沙漠金</translation>
     </message>
     <message>
         <source>Hey! Yo!</source>
-        <translation type="unfinished"></translation>
+        <translation>嘿！哟！</translation>
     </message>
     <message>
         <source>Midnight City</source>
-        <translation type="unfinished"></translation>
+        <translation>午夜都市</translation>
     </message>
     <message>
         <source>Monochrome lights</source>
-        <translation type="unfinished"></translation>
+        <translation>单色灯</translation>
     </message>
     <message>
         <source>Norwegian Forest Green</source>
-        <translation type="unfinished"></translation>
+        <translation>挪威森林绿</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -12124,87 +12124,87 @@
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>Party theme</source>
-        <translation type="unfinished"></translation>
+        <translation>派对主题</translation>
     </message>
     <message>
         <source>Provence Violet</source>
-        <translation type="unfinished"></translation>
+        <translation>普罗旺斯紫</translation>
     </message>
     <message>
         <source>Rear camera-keep the rear camera on</source>
-        <translation type="unfinished"></translation>
+        <translation>后摄像头-保持后摄像头开启</translation>
     </message>
     <message>
         <source>Refreshing Sea</source>
-        <translation type="unfinished"></translation>
+        <translation>清爽海洋</translation>
     </message>
     <message>
         <source>Romance</source>
-        <translation type="unfinished"></translation>
+        <translation>浪漫</translation>
     </message>
     <message>
         <source>Seat heated ventilation-automatic comfort control</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅加热通风-自动舒适控制</translation>
     </message>
     <message>
         <source>Seat-seat position change tips</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-座椅位置变化提示</translation>
     </message>
     <message>
         <source>Seat-third row right seat back fold</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-第三排右侧靠背折叠</translation>
     </message>
     <message>
         <source>Seats-third row left seat back fold</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-第三排左侧靠背折叠</translation>
     </message>
     <message>
         <source>Sound ambient light-ambient light</source>
-        <translation type="unfinished"></translation>
+        <translation>音乐氛围灯-氛围灯</translation>
     </message>
     <message>
         <source>Sound ambient light-brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>音乐氛围灯-亮度</translation>
     </message>
     <message>
         <source>Sound ambient light-monochromatic light(On)</source>
-        <translation type="unfinished"></translation>
+        <translation>音乐氛围灯-单色灯（开）</translation>
     </message>
     <message>
         <source>Sound ambient light-music+</source>
-        <translation type="unfinished"></translation>
+        <translation>音乐氛围灯-音乐+</translation>
     </message>
     <message>
         <source>Sound ambient light-theme color(On)</source>
-        <translation type="unfinished"></translation>
+        <translation>音乐氛围灯-主题色（开）</translation>
     </message>
     <message>
         <source>Steering wheel heater-automatic comfort control</source>
-        <translation type="unfinished"></translation>
+        <translation>方向盘加热-自动舒适控制</translation>
     </message>
     <message>
         <source>Travel</source>
-        <translation type="unfinished"></translation>
+        <translation>旅行</translation>
     </message>
     <message>
         <source>Vibrant Orange</source>
-        <translation type="unfinished"></translation>
+        <translation>活力橙</translation>
     </message>
     <message>
         <source>blind spot monitor</source>
-        <translation type="unfinished"></translation>
+        <translation>盲区监测</translation>
     </message>
     <message>
         <source>expand</source>
-        <translation type="unfinished"></translation>
+        <translation>展开</translation>
     </message>
     <message>
         <source>fold</source>
-        <translation type="unfinished"></translation>
+        <translation>折叠</translation>
     </message>
     <message>
         <source>null</source>
@@ -12212,62 +12212,62 @@
     </message>
     <message>
         <source>theme color</source>
-        <translation type="unfinished"></translation>
+        <translation>主题色</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_11</name>
     <message>
         <source>All Views</source>
-        <translation type="unfinished"></translation>
+        <translation>所有视图</translation>
     </message>
     <message>
         <source>All views</source>
-        <translation type="unfinished"></translation>
+        <translation>所有视图</translation>
     </message>
     <message>
         <source>Back + Left Back</source>
-        <translation type="unfinished"></translation>
+        <translation>后视+左后视</translation>
     </message>
     <message>
         <source>Back + Right Back</source>
-        <translation type="unfinished"></translation>
+        <translation>后视+右后视</translation>
     </message>
     <message>
         <source>Back Only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅后视</translation>
     </message>
     <message>
         <source>Back view + Down view</source>
-        <translation type="unfinished"></translation>
+        <translation>后视+俯视</translation>
     </message>
     <message>
         <source>Back view + Left view</source>
-        <translation type="unfinished"></translation>
+        <translation>后视+左视</translation>
     </message>
     <message>
         <source>Back view + Right view</source>
-        <translation type="unfinished"></translation>
+        <translation>后视+右视</translation>
     </message>
     <message>
         <source>Backward Only (in Forward Mode)</source>
-        <translation type="unfinished"></translation>
+        <translation>仅后视（前进模式）</translation>
     </message>
     <message>
         <source>Backward Only View (in backward mode)</source>
-        <translation type="unfinished"></translation>
+        <translation>仅后视（倒车模式）</translation>
     </message>
     <message>
         <source>Before and after image status</source>
-        <translation type="unfinished"></translation>
+        <translation>前后影像状态</translation>
     </message>
     <message>
         <source>Current is backward view</source>
-        <translation type="unfinished"></translation>
+        <translation>当前为后视</translation>
     </message>
     <message>
         <source>Current is forward view</source>
-        <translation type="unfinished"></translation>
+        <translation>当前为前视</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -12275,47 +12275,47 @@
     </message>
     <message>
         <source>Exit Panorama</source>
-        <translation type="unfinished"></translation>
+        <translation>退出全景</translation>
     </message>
     <message>
         <source>Forward + Left</source>
-        <translation type="unfinished"></translation>
+        <translation>前视+左视</translation>
     </message>
     <message>
         <source>Forward + Right</source>
-        <translation type="unfinished"></translation>
+        <translation>前视+右视</translation>
     </message>
     <message>
         <source>Forward Only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅前视</translation>
     </message>
     <message>
         <source>Front + Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>前视+左前视</translation>
     </message>
     <message>
         <source>Front + Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>前视+右前视</translation>
     </message>
     <message>
         <source>Front camera only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅前摄像头</translation>
     </message>
     <message>
         <source>Image 1</source>
-        <translation type="unfinished"></translation>
+        <translation>影像1</translation>
     </message>
     <message>
         <source>Image 2</source>
-        <translation type="unfinished"></translation>
+        <translation>影像2</translation>
     </message>
     <message>
         <source>Image 3</source>
-        <translation type="unfinished"></translation>
+        <translation>影像3</translation>
     </message>
     <message>
         <source>Image 4</source>
-        <translation type="unfinished"></translation>
+        <translation>影像4</translation>
     </message>
     <message>
         <source>Image 5</source>
@@ -12327,7 +12327,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>Panorama + Backward</source>
@@ -12339,7 +12339,7 @@
     </message>
     <message>
         <source>Panoramic image status</source>
-        <translation type="unfinished"></translation>
+        <translation>全景影像状态</translation>
     </message>
     <message>
         <source>Parking distance warning</source>
@@ -12541,7 +12541,7 @@
     <name>CarInfoItem67_13</name>
     <message>
         <source>Backlight adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>背光调节</translation>
     </message>
     <message>
         <source>Backrest-backrest of the seat</source>
@@ -12593,7 +12593,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>Outside temperature information</source>
@@ -12632,15 +12632,15 @@
     <name>CarInfoItem67_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -12648,67 +12648,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -12716,27 +12716,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -12748,54 +12748,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -12803,91 +12803,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -12895,23 +12895,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -12923,83 +12923,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -13007,7 +13007,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -13153,7 +13153,7 @@
     </message>
     <message>
         <source>driving mode</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶模式</translation>
     </message>
     <message>
         <source>none</source>
@@ -13307,14 +13307,14 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_8</name>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>复位</translation>
     </message>
     <message>
         <source>ECO level</source>
@@ -13342,7 +13342,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -13541,7 +13541,7 @@
     </message>
     <message>
         <source>have</source>
-        <translation type="unfinished"></translation>
+        <translation>有</translation>
     </message>
     <message>
         <source>least</source>
@@ -13568,98 +13568,98 @@
     <name>CarInfoItem70_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem70_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -13667,67 +13667,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -13735,27 +13735,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -13767,54 +13767,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem70_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -13822,91 +13822,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -13914,23 +13914,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -13942,83 +13942,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -14026,105 +14026,105 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem71_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem71_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -14132,67 +14132,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -14200,27 +14200,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -14232,54 +14232,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem71_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -14287,91 +14287,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -14379,23 +14379,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -14407,83 +14407,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -14491,90 +14491,90 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
@@ -14617,7 +14617,7 @@
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -14668,7 +14668,7 @@
     </message>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>复位</translation>
     </message>
 </context>
 <context>
@@ -14895,7 +14895,7 @@
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低</translation>
     </message>
     <message>
         <source>Manual speed limit</source>
@@ -14923,7 +14923,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>Overspeed alarm</source>
@@ -14951,7 +14951,7 @@
     </message>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>复位</translation>
     </message>
     <message>
         <source>start</source>
@@ -15333,7 +15333,7 @@
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低</translation>
     </message>
     <message>
         <source>Manual speed limit</source>
@@ -15361,7 +15361,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>Others-automatic folding and unfolding of exterior rearview mirrors</source>
@@ -15535,15 +15535,15 @@
     <name>CarInfoItem72_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -15551,67 +15551,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -15619,27 +15619,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -15651,54 +15651,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -15706,83 +15706,83 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -15790,23 +15790,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -15818,83 +15818,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -15902,7 +15902,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -15979,11 +15979,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>中</translation>
     </message>
     <message>
         <source>powerful</source>
@@ -16026,7 +16026,7 @@
     </message>
     <message>
         <source>driving mode</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶模式</translation>
     </message>
     <message>
         <source>economy</source>
@@ -16109,7 +16109,7 @@
     </message>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>复位</translation>
     </message>
 </context>
 <context>
@@ -16208,7 +16208,7 @@
     </message>
     <message>
         <source>have</source>
-        <translation type="unfinished"></translation>
+        <translation>有</translation>
     </message>
     <message>
         <source>quit</source>
@@ -16227,98 +16227,98 @@
     <name>CarInfoItem74_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem74_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -16326,67 +16326,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -16394,27 +16394,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -16426,54 +16426,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem74_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -16481,91 +16481,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -16573,23 +16573,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -16601,83 +16601,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -16685,105 +16685,105 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem78_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem78_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -16791,67 +16791,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -16859,27 +16859,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -16891,54 +16891,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem78_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -16946,91 +16946,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -17038,23 +17038,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -17066,83 +17066,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -17150,105 +17150,105 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem79_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem79_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -17256,67 +17256,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -17324,27 +17324,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -17356,54 +17356,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem79_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -17411,91 +17411,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -17503,23 +17503,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -17531,83 +17531,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -17615,7 +17615,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
@@ -17875,11 +17875,11 @@
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Outdoor temperature</source>
@@ -18022,11 +18022,11 @@
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>低</translation>
     </message>
     <message>
         <source>Low profile</source>
-        <translation type="unfinished"></translation>
+        <translation>低配</translation>
     </message>
     <message>
         <source>Media</source>
@@ -18316,7 +18316,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>P file</source>
@@ -18376,7 +18376,7 @@
     </message>
     <message>
         <source>Traction control system</source>
-        <translation type="unfinished"></translation>
+        <translation>牵引力控制系统</translation>
     </message>
     <message>
         <source>Traffic sign recognition</source>
@@ -18468,7 +18468,7 @@
     </message>
     <message>
         <source>theme color</source>
-        <translation type="unfinished"></translation>
+        <translation>主题色</translation>
     </message>
     <message>
         <source>unlocked</source>
@@ -18531,7 +18531,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>choose</source>
@@ -18747,98 +18747,98 @@
     <name>CarInfoItem96_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem96_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -18846,67 +18846,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -18914,27 +18914,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -18946,54 +18946,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem96_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -19001,91 +19001,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -19093,23 +19093,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -19121,83 +19121,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -19205,105 +19205,105 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem97_1</name>
     <message>
         <source>Air conditioning seat heating</source>
-        <translation type="unfinished"></translation>
+        <translation>空调座椅加热</translation>
     </message>
     <message>
         <source>Air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>空调温度</translation>
     </message>
     <message>
         <source>All car windows</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车窗</translation>
     </message>
     <message>
         <source>Already opened</source>
-        <translation type="unfinished"></translation>
+        <translation>已打开</translation>
     </message>
     <message>
         <source>Back left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Closed</source>
-        <translation type="unfinished"></translation>
+        <translation>已关闭</translation>
     </message>
     <message>
         <source>Closing</source>
-        <translation type="unfinished"></translation>
+        <translation>正在关闭</translation>
     </message>
     <message>
         <source>Co-pilot</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶</translation>
     </message>
     <message>
         <source>Current car window</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation type="unfinished"></translation>
+        <translation>当前车窗状态</translation>
     </message>
     <message>
         <source>Driving position</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶位</translation>
     </message>
     <message>
         <source>Front left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗翘起</translation>
     </message>
     <message>
         <source>Sunroof sun visor</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗遮阳帘</translation>
     </message>
     <message>
         <source>This feature is not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>不支持此功能</translation>
     </message>
     <message>
         <source>Trunk</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱</translation>
     </message>
     <message>
         <source>opening</source>
-        <translation type="unfinished"></translation>
+        <translation>正在打开</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem97_2</name>
     <message>
         <source>ACC status</source>
-        <translation type="unfinished"></translation>
+        <translation>ACC状态</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel onsumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗</translation>
     </message>
     <message>
         <source>Average speed</source>
@@ -19311,67 +19311,67 @@
     </message>
     <message>
         <source>Brake state</source>
-        <translation type="unfinished"></translation>
+        <translation>制动状态</translation>
     </message>
     <message>
         <source>Car window-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左前</translation>
     </message>
     <message>
         <source>Car window-rear left</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-左后</translation>
     </message>
     <message>
         <source>Car window-rear right</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右后</translation>
     </message>
     <message>
         <source>Car window-right front</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗-右前</translation>
     </message>
     <message>
         <source>Control module voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>控制模块电压</translation>
     </message>
     <message>
         <source>Copilot seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>副驾驶安全带</translation>
     </message>
     <message>
         <source>Corner function</source>
-        <translation type="unfinished"></translation>
+        <translation>转角功能</translation>
     </message>
     <message>
         <source>Door information</source>
-        <translation type="unfinished"></translation>
+        <translation>车门信息</translation>
     </message>
     <message>
         <source>Driving seat belt</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员安全带</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Engine speed</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机转速</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Gear status</source>
-        <translation type="unfinished"></translation>
+        <translation>挡位状态</translation>
     </message>
     <message>
         <source>Handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹状态</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -19379,27 +19379,27 @@
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage-A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage-B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -19411,54 +19411,54 @@
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Reverse gear</source>
-        <translation type="unfinished"></translation>
+        <translation>倒挡</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>The width light</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽灯</translation>
     </message>
     <message>
         <source>Tire speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>轮速信息</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮</translation>
     </message>
     <message>
         <source>light</source>
-        <translation type="unfinished"></translation>
+        <translation>亮</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem97_3</name>
     <message>
         <source>All off</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>Ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -19466,91 +19466,91 @@
     </message>
     <message>
         <source>Don&apos;t scratch</source>
-        <translation type="unfinished"></translation>
+        <translation>不刮</translation>
     </message>
     <message>
         <source>Engine oil temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>机油温度</translation>
     </message>
     <message>
         <source>Frame Number Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车架号信息</translation>
     </message>
     <message>
         <source>Front fog lights</source>
-        <translation type="unfinished"></translation>
+        <translation>前雾灯</translation>
     </message>
     <message>
         <source>Front left door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>左前门锁状态</translation>
     </message>
     <message>
         <source>Front left tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮速</translation>
     </message>
     <message>
         <source>Front right door lock state</source>
-        <translation type="unfinished"></translation>
+        <translation>右前门锁状态</translation>
     </message>
     <message>
         <source>Full open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>Half open</source>
-        <translation type="unfinished"></translation>
+        <translation>半开</translation>
     </message>
     <message>
         <source>High beam</source>
-        <translation type="unfinished"></translation>
+        <translation>远光灯</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时油耗</translation>
     </message>
     <message>
         <source>Instantaneous speed</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时车速</translation>
     </message>
     <message>
         <source>Left front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左前脉冲数</translation>
     </message>
     <message>
         <source>Left rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>左后脉冲数</translation>
     </message>
     <message>
         <source>Left turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>左转向灯</translation>
     </message>
     <message>
         <source>Level 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Level 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Level 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>Level 4</source>
-        <translation type="unfinished"></translation>
+        <translation>4级</translation>
     </message>
     <message>
         <source>Level 5</source>
-        <translation type="unfinished"></translation>
+        <translation>5级</translation>
     </message>
     <message>
         <source>Level 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6级</translation>
     </message>
     <message>
         <source>Level 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7级</translation>
     </message>
     <message>
         <source>Lock up</source>
@@ -19558,23 +19558,23 @@
     </message>
     <message>
         <source>Low beam lights</source>
-        <translation type="unfinished"></translation>
+        <translation>近光灯</translation>
     </message>
     <message>
         <source>Mileage A</source>
-        <translation type="unfinished"></translation>
+        <translation>里程A</translation>
     </message>
     <message>
         <source>Mileage B</source>
-        <translation type="unfinished"></translation>
+        <translation>里程B</translation>
     </message>
     <message>
         <source>Motor speed information</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速信息</translation>
     </message>
     <message>
         <source>Number of pulses per tire lap</source>
-        <translation type="unfinished"></translation>
+        <translation>每圈轮胎脉冲数</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -19586,83 +19586,83 @@
     </message>
     <message>
         <source>Opening and closing of left front window</source>
-        <translation type="unfinished"></translation>
+        <translation>左前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of left rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>左后车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right front window</source>
-        <translation type="unfinished"></translation>
+        <translation>右前车窗开闭</translation>
     </message>
     <message>
         <source>Opening and closing of right rear window</source>
-        <translation type="unfinished"></translation>
+        <translation>右后车窗开闭</translation>
     </message>
     <message>
         <source>Rear fog lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>后雾灯</translation>
     </message>
     <message>
         <source>Rear left door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>左后门锁状态</translation>
     </message>
     <message>
         <source>Rear right door locked state</source>
-        <translation type="unfinished"></translation>
+        <translation>右后门锁状态</translation>
     </message>
     <message>
         <source>Right front pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右前脉冲数</translation>
     </message>
     <message>
         <source>Right front tire speed</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮速</translation>
     </message>
     <message>
         <source>Right rear pulse number</source>
-        <translation type="unfinished"></translation>
+        <translation>右后脉冲数</translation>
     </message>
     <message>
         <source>Right turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>右转向灯</translation>
     </message>
     <message>
         <source>Rotating speed</source>
-        <translation type="unfinished"></translation>
+        <translation>转速</translation>
     </message>
     <message>
         <source>Skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
     <message>
         <source>Skylight opening and closing</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗开闭</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁</translation>
     </message>
     <message>
         <source>Voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>电压</translation>
     </message>
     <message>
         <source>Water temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>水温信息</translation>
     </message>
     <message>
         <source>Width indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>示宽指示</translation>
     </message>
     <message>
         <source>Wiper speed level</source>
-        <translation type="unfinished"></translation>
+        <translation>雨刮速度档位</translation>
     </message>
     <message>
         <source>avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -19670,7 +19670,7 @@
     </message>
     <message>
         <source>total mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>总里程</translation>
     </message>
 </context>
 <context>
