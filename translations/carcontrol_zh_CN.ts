@@ -58,7 +58,7 @@
     <name>CarExView103</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Tire pressure monitoring</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Vehicle Setup Information 2</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息2</translation>
     </message>
     <message>
         <source>Vehicle Setup Information 1</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Vehicle Setup Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息</translation>
     </message>
     <message>
         <source>Tire pressure information</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
@@ -638,7 +638,7 @@
     </message>
     <message>
         <source>Panoramic information</source>
-        <translation type="unfinished"></translation>
+        <translation>全景信息</translation>
     </message>
 </context>
 <context>
@@ -851,7 +851,7 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
@@ -870,15 +870,15 @@
     </message>
     <message>
         <source>List of potentials</source>
-        <translation type="unfinished"></translation>
+        <translation>潜力列表</translation>
     </message>
     <message>
         <source>Oil Potential List</source>
-        <translation type="unfinished"></translation>
+        <translation>燃油潜力列表</translation>
     </message>
     <message>
         <source>energy management</source>
-        <translation type="unfinished"></translation>
+        <translation>能量管理</translation>
     </message>
     <message>
         <source>driving mode</source>
@@ -890,31 +890,31 @@
     </message>
     <message>
         <source>Panoramic information</source>
-        <translation type="unfinished"></translation>
+        <translation>全景信息</translation>
     </message>
     <message>
         <source>Warning message</source>
-        <translation type="unfinished"></translation>
+        <translation>警告信息</translation>
     </message>
     <message>
         <source>Vehicle Setup Information 3</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息3</translation>
     </message>
     <message>
         <source>Vehicle Setup Information 2</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息2</translation>
     </message>
     <message>
         <source>Vehicle Setup Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息</translation>
     </message>
     <message>
         <source>Vehicle Setup Information 4</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息4</translation>
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Original car information</source>
@@ -968,7 +968,7 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>vehicle settings</source>
@@ -991,7 +991,7 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Original car setup information</source>
@@ -1014,28 +1014,28 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView81</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView82</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView84</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
@@ -1046,7 +1046,7 @@
     </message>
     <message>
         <source>Trip computer information</source>
-        <translation type="unfinished"></translation>
+        <translation>行车电脑信息</translation>
     </message>
 </context>
 <context>
@@ -1057,50 +1057,50 @@
     </message>
     <message>
         <source>Trip computer information</source>
-        <translation type="unfinished"></translation>
+        <translation>行车电脑信息</translation>
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Air conditioner preset state</source>
-        <translation type="unfinished"></translation>
+        <translation>空调预设状态</translation>
     </message>
     <message>
         <source>car status</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆状态</translation>
     </message>
     <message>
         <source>Memory speed value</source>
-        <translation type="unfinished"></translation>
+        <translation>记忆车速值</translation>
     </message>
     <message>
         <source>Cruising speed, speed limit</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速、限速</translation>
     </message>
     <message>
         <source>set item status 2</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态2</translation>
     </message>
     <message>
         <source>Hybrid information-energy flow</source>
-        <translation type="unfinished"></translation>
+        <translation>混动信息-能量流</translation>
     </message>
     <message>
         <source>Hybrid information-statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>混动信息-统计</translation>
     </message>
     <message>
         <source>Hybrid information-charging and battery storage</source>
-        <translation type="unfinished"></translation>
+        <translation>混动信息-充电与电池储能</translation>
     </message>
 </context>
 <context>
     <name>CarExView88</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Rear seat air conditioner information</source>
@@ -1135,14 +1135,14 @@
     <name>CarExView93</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView94</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
 </context>
 <context>
@@ -1161,7 +1161,7 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Amplifier Information</source>
@@ -1192,7 +1192,7 @@
     </message>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Tire pressure information</source>
@@ -1211,7 +1211,7 @@
     <name>CarExView98</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Setting item information</source>
@@ -1226,11 +1226,11 @@
     <name>CarExView99</name>
     <message>
         <source>body information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Panorama state</source>
-        <translation type="unfinished"></translation>
+        <translation>全景状态</translation>
     </message>
 </context>
 <context>
@@ -2688,7 +2688,7 @@
     </message>
     <message>
         <source>Reversing state</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车状态</translation>
     </message>
     <message>
         <source>Version information</source>
@@ -2759,7 +2759,7 @@
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>Inductive wiper</source>
@@ -2910,11 +2910,11 @@
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>OK</source>
@@ -10132,7 +10132,7 @@
     </message>
     <message>
         <source>powerful</source>
-        <translation type="unfinished"></translation>
+        <translation>强劲</translation>
     </message>
     <message>
         <source>recharge mileage</source>
@@ -10601,7 +10601,7 @@
     </message>
     <message>
         <source>Economy</source>
-        <translation type="unfinished"></translation>
+        <translation>经济</translation>
     </message>
     <message>
         <source>English</source>
@@ -10789,7 +10789,7 @@
     </message>
     <message>
         <source>Sports</source>
-        <translation type="unfinished"></translation>
+        <translation>运动</translation>
     </message>
     <message>
         <source>Sunroof settings-rain sensing sunroof</source>
@@ -12319,7 +12319,7 @@
     </message>
     <message>
         <source>Image 5</source>
-        <translation type="unfinished"></translation>
+        <translation>影像5</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -12331,11 +12331,11 @@
     </message>
     <message>
         <source>Panorama + Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>全景+后视</translation>
     </message>
     <message>
         <source>Panorama + Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>全景+前视</translation>
     </message>
     <message>
         <source>Panoramic image status</source>
@@ -12343,27 +12343,27 @@
     </message>
     <message>
         <source>Parking distance warning</source>
-        <translation type="unfinished"></translation>
+        <translation>泊车距离警告</translation>
     </message>
     <message>
         <source>Rear camera-enter and exit</source>
-        <translation type="unfinished"></translation>
+        <translation>后摄像头-进入与退出</translation>
     </message>
     <message>
         <source>Rear samera-image status</source>
-        <translation type="unfinished"></translation>
+        <translation>后摄像头-影像状态</translation>
     </message>
     <message>
         <source>Rear view parking guidance</source>
-        <translation type="unfinished"></translation>
+        <translation>后视泊车引导</translation>
     </message>
     <message>
         <source>front view mode</source>
-        <translation type="unfinished"></translation>
+        <translation>前视模式</translation>
     </message>
     <message>
         <source>no image</source>
-        <translation type="unfinished"></translation>
+        <translation>无影像</translation>
     </message>
     <message>
         <source>null</source>
@@ -12375,34 +12375,34 @@
     </message>
     <message>
         <source>rear view mode</source>
-        <translation type="unfinished"></translation>
+        <translation>后视模式</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_12</name>
     <message>
         <source>Front left sensor fault status</source>
-        <translation type="unfinished"></translation>
+        <translation>左前传感器故障状态</translation>
     </message>
     <message>
         <source>Front left tire-airLeak detection</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎-漏气检测</translation>
     </message>
     <message>
         <source>Front left tire-battery status</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎-电池状态</translation>
     </message>
     <message>
         <source>Front left tire-sensor pressure status</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎-传感器压力状态</translation>
     </message>
     <message>
         <source>Front left tire-sensor temperature status</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎-传感器温度状态</translation>
     </message>
     <message>
         <source>Front right sensor fault status</source>
-        <translation type="unfinished"></translation>
+        <translation>右前传感器故障状态</translation>
     </message>
     <message>
         <source>Left front tire pressure value</source>
@@ -12414,19 +12414,19 @@
     </message>
     <message>
         <source>No air leakage</source>
-        <translation type="unfinished"></translation>
+        <translation>无漏气</translation>
     </message>
     <message>
         <source>No trouble</source>
-        <translation type="unfinished"></translation>
+        <translation>无故障</translation>
     </message>
     <message>
         <source>Rear left sensor fault status</source>
-        <translation type="unfinished"></translation>
+        <translation>左后传感器故障状态</translation>
     </message>
     <message>
         <source>Rear right sensor fault status</source>
-        <translation type="unfinished"></translation>
+        <translation>右后传感器故障状态</translation>
     </message>
     <message>
         <source>Right front tire pressure value</source>
@@ -12438,59 +12438,59 @@
     </message>
     <message>
         <source>Severely high</source>
-        <translation type="unfinished"></translation>
+        <translation>严重偏高</translation>
     </message>
     <message>
         <source>Severely low</source>
-        <translation type="unfinished"></translation>
+        <translation>严重偏低</translation>
     </message>
     <message>
         <source>Temperature-back left</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-左后</translation>
     </message>
     <message>
         <source>Temperature-back right</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-右后</translation>
     </message>
     <message>
         <source>Temperature-front reft</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-左前</translation>
     </message>
     <message>
         <source>Temperature-front right</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-右前</translation>
     </message>
     <message>
         <source>air leak</source>
-        <translation type="unfinished"></translation>
+        <translation>漏气</translation>
     </message>
     <message>
         <source>battery is normal</source>
-        <translation type="unfinished"></translation>
+        <translation>电池正常</translation>
     </message>
     <message>
         <source>battery is too low</source>
-        <translation type="unfinished"></translation>
+        <translation>电池电量过低</translation>
     </message>
     <message>
         <source>front right tire--battery status</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎-电池状态</translation>
     </message>
     <message>
         <source>front right tire-air leak detection</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎-漏气检测</translation>
     </message>
     <message>
         <source>front right tire-sensor pressure status</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎-传感器压力状态</translation>
     </message>
     <message>
         <source>front right tire-sensor temperature status</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎-传感器温度状态</translation>
     </message>
     <message>
         <source>malfunction</source>
-        <translation type="unfinished"></translation>
+        <translation>故障</translation>
     </message>
     <message>
         <source>normal</source>
@@ -12498,43 +12498,43 @@
     </message>
     <message>
         <source>rear left tire-air leak detection</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎-漏气检测</translation>
     </message>
     <message>
         <source>rear left tire-battery status</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎-电池状态</translation>
     </message>
     <message>
         <source>rear left tire-sensor pressure status</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎-传感器压力状态</translation>
     </message>
     <message>
         <source>rear left tire-sensor temperature status</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎-传感器温度状态</translation>
     </message>
     <message>
         <source>rear right tire-air leak detection</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎-漏气检测</translation>
     </message>
     <message>
         <source>rear right tire-battery status</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎-电池状态</translation>
     </message>
     <message>
         <source>rear right tire-sensor pressure status</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎-传感器压力状态</translation>
     </message>
     <message>
         <source>rear right tire-sensor temperature status</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎-传感器温度状态</translation>
     </message>
     <message>
         <source>slightly higher</source>
-        <translation type="unfinished"></translation>
+        <translation>略偏高</translation>
     </message>
     <message>
         <source>slightly lower</source>
-        <translation type="unfinished"></translation>
+        <translation>略偏低</translation>
     </message>
 </context>
 <context>
@@ -12545,19 +12545,19 @@
     </message>
     <message>
         <source>Backrest-backrest of the seat</source>
-        <translation type="unfinished"></translation>
+        <translation>靠背-座椅靠背</translation>
     </message>
     <message>
         <source>Backrest-seat back down</source>
-        <translation type="unfinished"></translation>
+        <translation>靠背-靠背向下</translation>
     </message>
     <message>
         <source>Backrest-seat back forward</source>
-        <translation type="unfinished"></translation>
+        <translation>靠背-靠背向前</translation>
     </message>
     <message>
         <source>Backrest-seat back up</source>
-        <translation type="unfinished"></translation>
+        <translation>靠背-靠背向上</translation>
     </message>
     <message>
         <source>Chinese</source>
@@ -12565,7 +12565,7 @@
     </message>
     <message>
         <source>Compass information-bearing</source>
-        <translation type="unfinished"></translation>
+        <translation>指南针信息-方位</translation>
     </message>
     <message>
         <source>English</source>
@@ -12577,7 +12577,7 @@
     </message>
     <message>
         <source>Hybrid/Electric Vehicles</source>
-        <translation type="unfinished"></translation>
+        <translation>混动/电动车型</translation>
     </message>
     <message>
         <source>Model selection</source>
@@ -12585,7 +12585,7 @@
     </message>
     <message>
         <source>Non-hybrid/electric models</source>
-        <translation type="unfinished"></translation>
+        <translation>非混动/电动车型</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -12597,31 +12597,31 @@
     </message>
     <message>
         <source>Outside temperature information</source>
-        <translation type="unfinished"></translation>
+        <translation>车外温度信息</translation>
     </message>
     <message>
         <source>Seat seat down</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅坐垫向下</translation>
     </message>
     <message>
         <source>Seat-seat back</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-座椅向后</translation>
     </message>
     <message>
         <source>Seat-seat forward</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-座椅向前</translation>
     </message>
     <message>
         <source>Seat-seat lift</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-座椅升高</translation>
     </message>
     <message>
         <source>Seat-seat lower</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-座椅降低</translation>
     </message>
     <message>
         <source>Seat-seat up</source>
-        <translation type="unfinished"></translation>
+        <translation>座椅-座椅向上</translation>
     </message>
     <message>
         <source>language settings</source>
@@ -13014,7 +13014,7 @@
     <name>CarInfoItem67_4</name>
     <message>
         <source>Alto</source>
-        <translation type="unfinished"></translation>
+        <translation>中音</translation>
     </message>
     <message>
         <source>Treble</source>
@@ -13022,11 +13022,11 @@
     </message>
     <message>
         <source>Volume adjustment</source>
-        <translation type="unfinished"></translation>
+        <translation>音量调节</translation>
     </message>
     <message>
         <source>balance left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>左右平衡</translation>
     </message>
     <message>
         <source>bass</source>
@@ -13034,46 +13034,46 @@
     </message>
     <message>
         <source>front and rear balance</source>
-        <translation type="unfinished"></translation>
+        <translation>前后平衡</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_5</name>
     <message>
         <source>100KM/H</source>
-        <translation type="unfinished"></translation>
+        <translation>100KM/H</translation>
     </message>
     <message>
         <source>110KM/H</source>
-        <translation type="unfinished"></translation>
+        <translation>110KM/H</translation>
     </message>
     <message>
         <source>120KM/H</source>
-        <translation type="unfinished"></translation>
+        <translation>120KM/H</translation>
     </message>
     <message>
         <source>130KM/H</source>
-        <translation type="unfinished"></translation>
+        <translation>130KM/H</translation>
     </message>
     <message>
         <source>90KM/H</source>
-        <translation type="unfinished"></translation>
+        <translation>90KM/H</translation>
     </message>
     <message>
         <source>COMFORT</source>
-        <translation type="unfinished"></translation>
+        <translation>COMFORT</translation>
     </message>
     <message>
         <source>COMFORT mode</source>
-        <translation type="unfinished"></translation>
+        <translation>COMFORT模式</translation>
     </message>
     <message>
         <source>COMFORT mode-air conditioning control</source>
-        <translation type="unfinished"></translation>
+        <translation>COMFORT模式-空调控制</translation>
     </message>
     <message>
         <source>COMFORT mode-coasting energy regeneration</source>
-        <translation type="unfinished"></translation>
+        <translation>COMFORT模式-滑行能量回收</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -13081,7 +13081,7 @@
     </message>
     <message>
         <source>Driving mode information</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶模式信息</translation>
     </message>
     <message>
         <source>ECO</source>
@@ -13089,67 +13089,67 @@
     </message>
     <message>
         <source>ECO energy saving-CO2 emission reduction(CO2 emission reduction)</source>
-        <translation type="unfinished"></translation>
+        <translation>ECO节能-CO2减排（CO2减排量）</translation>
     </message>
     <message>
         <source>ECO energy saving-CO2 emission reduction(travel distance)</source>
-        <translation type="unfinished"></translation>
+        <translation>ECO节能-CO2减排（行驶里程）</translation>
     </message>
     <message>
         <source>ECO mode</source>
-        <translation type="unfinished"></translation>
+        <translation>ECO模式</translation>
     </message>
     <message>
         <source>ECO mode-air Conditioning control</source>
-        <translation type="unfinished"></translation>
+        <translation>ECO模式-空调控制</translation>
     </message>
     <message>
         <source>ECO mode-coasting energy regeneration</source>
-        <translation type="unfinished"></translation>
+        <translation>ECO模式-滑行能量回收</translation>
     </message>
     <message>
         <source>ECO mode-speed limit</source>
-        <translation type="unfinished"></translation>
+        <translation>ECO模式-限速</translation>
     </message>
     <message>
         <source>Grade 1</source>
-        <translation type="unfinished"></translation>
+        <translation>1级</translation>
     </message>
     <message>
         <source>Grade 2</source>
-        <translation type="unfinished"></translation>
+        <translation>2级</translation>
     </message>
     <message>
         <source>Grade 3</source>
-        <translation type="unfinished"></translation>
+        <translation>3级</translation>
     </message>
     <message>
         <source>SMART</source>
-        <translation type="unfinished"></translation>
+        <translation>SMART</translation>
     </message>
     <message>
         <source>SPORT</source>
-        <translation type="unfinished"></translation>
+        <translation>SPORT</translation>
     </message>
     <message>
         <source>SPORT mode</source>
-        <translation type="unfinished"></translation>
+        <translation>SPORT模式</translation>
     </message>
     <message>
         <source>SPORT mode-air conditioning control</source>
-        <translation type="unfinished"></translation>
+        <translation>SPORT模式-空调控制</translation>
     </message>
     <message>
         <source>SPORT mode-coasting Energy regeneration</source>
-        <translation type="unfinished"></translation>
+        <translation>SPORT模式-滑行能量回收</translation>
     </message>
     <message>
         <source>Sure</source>
-        <translation type="unfinished"></translation>
+        <translation>确定</translation>
     </message>
     <message>
         <source>Vehicle settings-drive mode reset</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置-驾驶模式复位</translation>
     </message>
     <message>
         <source>driving mode</source>
@@ -13168,130 +13168,130 @@
     <name>CarInfoItem67_6</name>
     <message>
         <source>100%</source>
-        <translation type="unfinished"></translation>
+        <translation>100%</translation>
     </message>
     <message>
         <source>50%</source>
-        <translation type="unfinished"></translation>
+        <translation>50%</translation>
     </message>
     <message>
         <source>60%</source>
-        <translation type="unfinished"></translation>
+        <translation>60%</translation>
     </message>
     <message>
         <source>70%</source>
-        <translation type="unfinished"></translation>
+        <translation>70%</translation>
     </message>
     <message>
         <source>80%</source>
-        <translation type="unfinished"></translation>
+        <translation>80%</translation>
     </message>
     <message>
         <source>90%</source>
-        <translation type="unfinished"></translation>
+        <translation>90%</translation>
     </message>
     <message>
         <source>Charging settings-set the aamount Of charge(normal)-battery percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-设置充电量（普通）-电量百分比</translation>
     </message>
     <message>
         <source>Charging settings-set the aamount of charge(full)-approximate mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-设置充电量（充满）-大约里程</translation>
     </message>
     <message>
         <source>Charging settings-set the aamount of charge(full)-battery percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-设置充电量（充满）-电量百分比</translation>
     </message>
     <message>
         <source>Charging settings-set the aamount of charge(normal)-approximate mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-设置充电量（普通）-大约里程</translation>
     </message>
     <message>
         <source>Estimated charging time(fast charging)</source>
-        <translation type="unfinished"></translation>
+        <translation>预计充电时间（快充）</translation>
     </message>
     <message>
         <source>Power consumption-instant consumption(air conditioning system)</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗-瞬时电耗（空调系统）</translation>
     </message>
     <message>
         <source>Power consumption-instant consumption(battery care)</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗-瞬时电耗（电池养护）</translation>
     </message>
     <message>
         <source>Power consumption-instant consumption(electronic equipment)</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗-瞬时电耗（电子设备）</translation>
     </message>
     <message>
         <source>Power consumption-instant consumption(legacy system)</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗-瞬时电耗（其他系统）</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem67_7</name>
     <message>
         <source>Energy flowchart UI</source>
-        <translation type="unfinished"></translation>
+        <translation>能量流程图界面</translation>
     </message>
     <message>
         <source>Estimated charging time-cradle charging</source>
-        <translation type="unfinished"></translation>
+        <translation>预计充电时间-充电桩充电</translation>
     </message>
     <message>
         <source>Estimated charging time-portable charging</source>
-        <translation type="unfinished"></translation>
+        <translation>预计充电时间-便携式充电</translation>
     </message>
     <message>
         <source>UI0 Hybrid Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>UI0 混动模式</translation>
     </message>
     <message>
         <source>UI1 Idle Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>UI1 怠速模式</translation>
     </message>
     <message>
         <source>UI10 is charging</source>
-        <translation type="unfinished"></translation>
+        <translation>UI10 充电中</translation>
     </message>
     <message>
         <source>UI11 is charging</source>
-        <translation type="unfinished"></translation>
+        <translation>UI11 充电中</translation>
     </message>
     <message>
         <source>UI2 Motor Running</source>
-        <translation type="unfinished"></translation>
+        <translation>UI2 电机运行</translation>
     </message>
     <message>
         <source>UI3 Hybrid Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>UI3 混动模式</translation>
     </message>
     <message>
         <source>UI4 Engine Running</source>
-        <translation type="unfinished"></translation>
+        <translation>UI4 发动机运行</translation>
     </message>
     <message>
         <source>UI5 Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>UI5 充电</translation>
     </message>
     <message>
         <source>UI6 Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>UI6 充电</translation>
     </message>
     <message>
         <source>UI7 Transmitter Braking</source>
-        <translation type="unfinished"></translation>
+        <translation>UI7 发电机制动</translation>
     </message>
     <message>
         <source>UI8 Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>UI8 充电</translation>
     </message>
     <message>
         <source>UI9 is charging</source>
-        <translation type="unfinished"></translation>
+        <translation>UI9 充电中</translation>
     </message>
     <message>
         <source>battery percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>电量百分比</translation>
     </message>
     <message>
         <source>battery power</source>
@@ -13299,11 +13299,11 @@
     </message>
     <message>
         <source>electricity</source>
-        <translation type="unfinished"></translation>
+        <translation>电</translation>
     </message>
     <message>
         <source>gasoline</source>
-        <translation type="unfinished"></translation>
+        <translation>汽油</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -13318,27 +13318,27 @@
     </message>
     <message>
         <source>ECO level</source>
-        <translation type="unfinished"></translation>
+        <translation>ECO等级</translation>
     </message>
     <message>
         <source>Energy consumption record</source>
-        <translation type="unfinished"></translation>
+        <translation>能耗记录</translation>
     </message>
     <message>
         <source>Energy information: initialization</source>
-        <translation type="unfinished"></translation>
+        <translation>能量信息：初始化</translation>
     </message>
     <message>
         <source>Hybrid fuel consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>混动油耗</translation>
     </message>
     <message>
         <source>Motor energy consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>电机能耗</translation>
     </message>
     <message>
         <source>average energy consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均能耗</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -13349,179 +13349,179 @@
     <name>CarInfoItem67_9</name>
     <message>
         <source>Appointment time-repeat(Friday)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-重复（星期五）</translation>
     </message>
     <message>
         <source>Appointment time-repeat(Monday)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-重复（星期一）</translation>
     </message>
     <message>
         <source>Appointment time-repeat(Saturday)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-重复（星期六）</translation>
     </message>
     <message>
         <source>Appointment time-repeat(Sunday)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-重复（星期日）</translation>
     </message>
     <message>
         <source>Appointment time-repeat(Thursday)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-重复（星期四）</translation>
     </message>
     <message>
         <source>Appointment time-repeat(Tuesday)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-重复（星期二）</translation>
     </message>
     <message>
         <source>Appointment time-repeat(Wednesday)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-重复（星期三）</translation>
     </message>
     <message>
         <source>Appointment time-start time(hour)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-开始时间（时）</translation>
     </message>
     <message>
         <source>Appointment time-start time(minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-开始时间（分）</translation>
     </message>
     <message>
         <source>Appointment time_end time(hour)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-结束时间（时）</translation>
     </message>
     <message>
         <source>Appointment time_end time(minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>预约时间-结束时间（分）</translation>
     </message>
     <message>
         <source>Charge only during discounted time</source>
-        <translation type="unfinished"></translation>
+        <translation>仅在优惠时段充电</translation>
     </message>
     <message>
         <source>Charging current-defrost before scheduling an air conditionere</source>
-        <translation type="unfinished"></translation>
+        <translation>充电电流-预约空调前除霜</translation>
     </message>
     <message>
         <source>Charging current-discounted time charging</source>
-        <translation type="unfinished"></translation>
+        <translation>充电电流-优惠时段充电</translation>
     </message>
     <message>
         <source>Charging current-reservation air conditioning temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>充电电流-预约空调温度</translation>
     </message>
     <message>
         <source>Charging current-reservation air conditioning temperature switch</source>
-        <translation type="unfinished"></translation>
+        <translation>充电电流-预约空调温度开关</translation>
     </message>
     <message>
         <source>Charging current-reserve charging time</source>
-        <translation type="unfinished"></translation>
+        <translation>充电电流-预约充电时间</translation>
     </message>
     <message>
         <source>Charging current-set normal charge current(portable)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电电流-设置普通充电电流（便携式）</translation>
     </message>
     <message>
         <source>Charging current-set the normal charging current(charging pile)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电电流-设置普通充电电流（充电桩）</translation>
     </message>
     <message>
         <source>Charging settings-scheduled charging time-end time(hour)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-预约充电时间-结束时间（时）</translation>
     </message>
     <message>
         <source>Charging settings-scheduled charging time-end time(minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-预约充电时间-结束时间（分）</translation>
     </message>
     <message>
         <source>Charging settings-scheduled charging time-start time(hour)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-预约充电时间-开始时间（时）</translation>
     </message>
     <message>
         <source>Charging settings-scheduled charging time-start time(minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-预约充电时间-开始时间（分）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1(Minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1（分）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1(hour)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1（时）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1-repeat(Friday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1-重复（星期五）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1-repeat(Monday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1-重复（星期一）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1-repeat(Saturday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1-重复（星期六）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1-repeat(Sunday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1-重复（星期日）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1-repeat(Thursday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1-重复（星期四）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1-repeat(Tuesday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1-重复（星期二）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 1-repeat(Wednesday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置1-重复（星期三）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2(hour)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2（时）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2(minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2（分）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2-repeat(Friday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2-重复（星期五）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2-repeat(Monday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2-重复（星期一）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2-repeat(Saturday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2-重复（星期六）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2-repeat(Sunday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2-重复（星期日）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2-repeat(Thursday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2-重复（星期四）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2-repeat(Tuesday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2-重复（星期二）</translation>
     </message>
     <message>
         <source>Charging settings-time settings 2-repeat(Wednesday)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电设置-时间设置2-重复（星期三）</translation>
     </message>
     <message>
         <source>How To Set Up An Appointment</source>
-        <translation type="unfinished"></translation>
+        <translation>预约设置方式</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -13533,11 +13533,11 @@
     </message>
     <message>
         <source>Priority charging during discounted time</source>
-        <translation type="unfinished"></translation>
+        <translation>优惠时段优先充电</translation>
     </message>
     <message>
         <source>biggest</source>
-        <translation type="unfinished"></translation>
+        <translation>最大</translation>
     </message>
     <message>
         <source>have</source>
@@ -13545,7 +13545,7 @@
     </message>
     <message>
         <source>least</source>
-        <translation type="unfinished"></translation>
+        <translation>最小</translation>
     </message>
     <message>
         <source>none</source>
@@ -13553,15 +13553,15 @@
     </message>
     <message>
         <source>reduce</source>
-        <translation type="unfinished"></translation>
+        <translation>减少</translation>
     </message>
     <message>
         <source>way 1</source>
-        <translation type="unfinished"></translation>
+        <translation>方式1</translation>
     </message>
     <message>
         <source>way 2</source>
-        <translation type="unfinished"></translation>
+        <translation>方式2</translation>
     </message>
 </context>
 <context>
@@ -14581,39 +14581,39 @@
     <name>CarInfoItem72_10</name>
     <message>
         <source>ABS warning indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>ABS警告指示灯</translation>
     </message>
     <message>
         <source>Airbag warning indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>安全气囊警告指示灯</translation>
     </message>
     <message>
         <source>Corner sensor warning indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>转角传感器警告指示灯</translation>
     </message>
     <message>
         <source>Cruise control malfunction warning indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>定速巡航故障警告指示灯</translation>
     </message>
     <message>
         <source>EPB system fault warningLight</source>
-        <translation type="unfinished"></translation>
+        <translation>EPB系统故障警告灯</translation>
     </message>
     <message>
         <source>Engine condensate temperature indicator Light</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机冷凝液温度指示灯</translation>
     </message>
     <message>
         <source>Engine emissions malfunction</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机排放故障</translation>
     </message>
     <message>
         <source>Engine malfunction warning light</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机故障警告灯</translation>
     </message>
     <message>
         <source>Handbrake warning light</source>
-        <translation type="unfinished"></translation>
+        <translation>手刹警告灯</translation>
     </message>
     <message>
         <source>High beam</source>
@@ -14629,42 +14629,42 @@
     </message>
     <message>
         <source>Remote key no power warning indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>遥控钥匙电量耗尽警告指示灯</translation>
     </message>
     <message>
         <source>Seat belt unfastened warning indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>安全带未系警告指示灯</translation>
     </message>
     <message>
         <source>Traction control off warning light</source>
-        <translation type="unfinished"></translation>
+        <translation>牵引力控制关闭警告灯</translation>
     </message>
     <message>
         <source>oil warning light</source>
-        <translation type="unfinished"></translation>
+        <translation>机油警告灯</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_11</name>
     <message>
         <source>Comfortable and convenient-car search instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-寻车指示</translation>
     </message>
     <message>
         <source>Comfortable and convenient-smart near car unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-智能近车解锁</translation>
     </message>
     <message>
         <source>Comfortable and convenient-take me home</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-伴我回家</translation>
     </message>
     <message>
         <source>Comfortable and convenient-unlock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-解锁模式</translation>
     </message>
     <message>
         <source>Driving maintenance-tire pressure reset</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-胎压复位</translation>
     </message>
     <message>
         <source>reset</source>
@@ -14687,87 +14687,87 @@
     </message>
     <message>
         <source>Advanced driver assistance-Lane departure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-车道偏离警告</translation>
     </message>
     <message>
         <source>Advanced driver assistance-alarm sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-报警灵敏度</translation>
     </message>
     <message>
         <source>Advanced driver assistance-alarm tone</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-报警提示音</translation>
     </message>
     <message>
         <source>Advanced driver assistance-assist mode</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-辅助模式</translation>
     </message>
     <message>
         <source>Advanced driver assistance-assist mode1</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-辅助模式1</translation>
     </message>
     <message>
         <source>Advanced driver assistance-blind spot detection</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-盲区检测</translation>
     </message>
     <message>
         <source>Advanced driver assistance-forward collision Assist</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-前碰撞辅助</translation>
     </message>
     <message>
         <source>Advanced driver assistance-lane change assist</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-变道辅助</translation>
     </message>
     <message>
         <source>Advanced driver assistance-lane keeping assist</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-车道保持辅助</translation>
     </message>
     <message>
         <source>Advanced driver assistance-rear driving assistance system</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-后方行车辅助系统</translation>
     </message>
     <message>
         <source>Advanced driver assistance-rear traffic warning</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-后方交通警告</translation>
     </message>
     <message>
         <source>Advanced driver assistance-speed assist</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-速度辅助</translation>
     </message>
     <message>
         <source>Advanced driver assistance-traffic jam assist</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-交通拥堵辅助</translation>
     </message>
     <message>
         <source>Advanced driver assistance-vibration reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>高级驾驶辅助-振动提醒</translation>
     </message>
     <message>
         <source>Air conditioner-air volume in automatic mode</source>
-        <translation type="unfinished"></translation>
+        <translation>空调-自动模式风量</translation>
     </message>
     <message>
         <source>Air conditioner-rear window defrost and defogging linkage</source>
-        <translation type="unfinished"></translation>
+        <translation>空调-后窗除霜除雾联动</translation>
     </message>
     <message>
         <source>Air conditioner-zone temperature settings</source>
-        <translation type="unfinished"></translation>
+        <translation>空调-分区温度设置</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>报警</translation>
     </message>
     <message>
         <source>Alarm + Lane Departure Assist</source>
-        <translation type="unfinished"></translation>
+        <translation>报警+车道偏离辅助</translation>
     </message>
     <message>
         <source>Alarm + Lane Keeping</source>
-        <translation type="unfinished"></translation>
+        <translation>报警+车道保持</translation>
     </message>
     <message>
         <source>Alarm + automatic braking</source>
-        <translation type="unfinished"></translation>
+        <translation>报警+自动制动</translation>
     </message>
     <message>
         <source>All doors</source>
@@ -14775,15 +14775,15 @@
     </message>
     <message>
         <source>Assisted driving-parking assist system</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-泊车辅助系统</translation>
     </message>
     <message>
         <source>Assisted driving-pedestrian warning sound volume</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-行人警示音音量</translation>
     </message>
     <message>
         <source>Assisted driving-warning tones for pedestrians</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-行人警示音</translation>
     </message>
     <message>
         <source>Chinese</source>
@@ -14795,63 +14795,63 @@
     </message>
     <message>
         <source>Comfortable and convenient-automatic folding and unfolding of exterior mirrors</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-外后视镜自动折叠展开</translation>
     </message>
     <message>
         <source>Comfortable and convenient-car search instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-寻车指示</translation>
     </message>
     <message>
         <source>Comfortable and convenient-driving lock</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-行车落锁</translation>
     </message>
     <message>
         <source>Comfortable and convenient-smart near car unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-智能近车解锁</translation>
     </message>
     <message>
         <source>Comfortable and convenient-steering feel</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-转向手感</translation>
     </message>
     <message>
         <source>Comfortable and convenient-take me home</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-伴我回家</translation>
     </message>
     <message>
         <source>Comfortable and convenient-unlock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-解锁模式</translation>
     </message>
     <message>
         <source>Default dual zone</source>
-        <translation type="unfinished"></translation>
+        <translation>默认双区</translation>
     </message>
     <message>
         <source>Default last time</source>
-        <translation type="unfinished"></translation>
+        <translation>默认上次</translation>
     </message>
     <message>
         <source>Default single zone</source>
-        <translation type="unfinished"></translation>
+        <translation>默认单区</translation>
     </message>
     <message>
         <source>Driver&apos;s side only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅驾驶员侧</translation>
     </message>
     <message>
         <source>Driving maintenance-body stability control</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-车身稳定控制</translation>
     </message>
     <message>
         <source>Driving maintenance-economical driving</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-经济驾驶</translation>
     </message>
     <message>
         <source>Driving maintenance-steep descent control system</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-陡坡缓降系统</translation>
     </message>
     <message>
         <source>Driving maintenance-tire pressure reset</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-胎压复位</translation>
     </message>
     <message>
         <source>English</source>
@@ -14859,31 +14859,31 @@
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>Intelligent speed limit</source>
-        <translation type="unfinished"></translation>
+        <translation>智能限速</translation>
     </message>
     <message>
         <source>Large</source>
-        <translation type="unfinished"></translation>
+        <translation>大</translation>
     </message>
     <message>
         <source>Lighting-car search indication duration</source>
-        <translation type="unfinished"></translation>
+        <translation>照明-寻车指示时长</translation>
     </message>
     <message>
         <source>Lighting-take me home and keep the lights on</source>
-        <translation type="unfinished"></translation>
+        <translation>照明-伴我回家保持灯亮</translation>
     </message>
     <message>
         <source>Lighting-the welcome light stays on</source>
-        <translation type="unfinished"></translation>
+        <translation>照明-迎宾灯常亮</translation>
     </message>
     <message>
         <source>Lighting-welcome lights</source>
-        <translation type="unfinished"></translation>
+        <translation>照明-迎宾灯</translation>
     </message>
     <message>
         <source>Lights only</source>
@@ -14891,7 +14891,7 @@
     </message>
     <message>
         <source>Lights+Speakers</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光+扬声器</translation>
     </message>
     <message>
         <source>Low</source>
@@ -14899,7 +14899,7 @@
     </message>
     <message>
         <source>Manual speed limit</source>
-        <translation type="unfinished"></translation>
+        <translation>手动限速</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -14907,7 +14907,7 @@
     </message>
     <message>
         <source>Meter brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>仪表亮度</translation>
     </message>
     <message>
         <source>Normal</source>
@@ -14927,27 +14927,27 @@
     </message>
     <message>
         <source>Overspeed alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>超速报警</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation>小</translation>
     </message>
     <message>
         <source>Sports</source>
-        <translation type="unfinished"></translation>
+        <translation>运动</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>标准</translation>
     </message>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>结束</translation>
     </message>
     <message>
         <source>language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言</translation>
     </message>
     <message>
         <source>reset</source>
@@ -14955,38 +14955,38 @@
     </message>
     <message>
         <source>start</source>
-        <translation type="unfinished"></translation>
+        <translation>开始</translation>
     </message>
     <message>
         <source>sunroof status</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗状态</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_13</name>
     <message>
         <source>1 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>1分钟</translation>
     </message>
     <message>
         <source>1 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>1分30秒</translation>
     </message>
     <message>
         <source>2 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>2分钟</translation>
     </message>
     <message>
         <source>2 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>2分30秒</translation>
     </message>
     <message>
         <source>3 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>3分钟</translation>
     </message>
     <message>
         <source>3 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>3分30秒</translation>
     </message>
     <message>
         <source>30s</source>
@@ -14994,90 +14994,90 @@
     </message>
     <message>
         <source>4 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>4分钟</translation>
     </message>
     <message>
         <source>4 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>4分30秒</translation>
     </message>
     <message>
         <source>5 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>5分钟</translation>
     </message>
     <message>
         <source>Lighting Control-take me home duration</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家时长</translation>
     </message>
     <message>
         <source>Lighting control-car search indication duration</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车指示时长</translation>
     </message>
     <message>
         <source>Lighting control-car search light(low beam lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车灯（近光灯）</translation>
     </message>
     <message>
         <source>Lighting control-car search light(rear fog lamps)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车灯（后雾灯）</translation>
     </message>
     <message>
         <source>Lighting control-car search light(reversing lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车灯（倒车灯）</translation>
     </message>
     <message>
         <source>Lighting control-take me home(low beam lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家（近光灯）</translation>
     </message>
     <message>
         <source>Lighting control-take me home(rear fog lamps)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家（后雾灯）</translation>
     </message>
     <message>
         <source>Lighting control-take me home(reversing lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家（倒车灯）</translation>
     </message>
     <message>
         <source>Lock control-smart near car unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>门锁控制-智能近车解锁</translation>
     </message>
     <message>
         <source>Lock control-travel lock</source>
-        <translation type="unfinished"></translation>
+        <translation>门锁控制-行车落锁</translation>
     </message>
     <message>
         <source>Lock control-unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>门锁控制-解锁</translation>
     </message>
     <message>
         <source>Lock control-unlock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>门锁控制-解锁模式</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_14</name>
     <message>
         <source>1 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>1分钟</translation>
     </message>
     <message>
         <source>1 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>1分30秒</translation>
     </message>
     <message>
         <source>2 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>2分钟</translation>
     </message>
     <message>
         <source>2 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>2分30秒</translation>
     </message>
     <message>
         <source>3 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>3分钟</translation>
     </message>
     <message>
         <source>3 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>3分30秒</translation>
     </message>
     <message>
         <source>30s</source>
@@ -15085,15 +15085,15 @@
     </message>
     <message>
         <source>4 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>4分钟</translation>
     </message>
     <message>
         <source>4 minute 30s</source>
-        <translation type="unfinished"></translation>
+        <translation>4分30秒</translation>
     </message>
     <message>
         <source>5 minute</source>
-        <translation type="unfinished"></translation>
+        <translation>5分钟</translation>
     </message>
     <message>
         <source>60s</source>
@@ -15105,35 +15105,35 @@
     </message>
     <message>
         <source>Air conditioner-air volume in automatic mode</source>
-        <translation type="unfinished"></translation>
+        <translation>空调-自动模式风量</translation>
     </message>
     <message>
         <source>Air conditioner-outside air quality sensor sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>空调-车外空气质量传感器灵敏度</translation>
     </message>
     <message>
         <source>Air conditioner-rear window defrost and defogging linkage</source>
-        <translation type="unfinished"></translation>
+        <translation>空调-后窗除霜除雾联动</translation>
     </message>
     <message>
         <source>Air conditioner-zone temperature settings</source>
-        <translation type="unfinished"></translation>
+        <translation>空调-分区温度设置</translation>
     </message>
     <message>
         <source>Alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>报警</translation>
     </message>
     <message>
         <source>Alarm + Lane Departure Assist</source>
-        <translation type="unfinished"></translation>
+        <translation>报警+车道偏离辅助</translation>
     </message>
     <message>
         <source>Alarm + Lane Keeping</source>
-        <translation type="unfinished"></translation>
+        <translation>报警+车道保持</translation>
     </message>
     <message>
         <source>All closed</source>
-        <translation type="unfinished"></translation>
+        <translation>全部关闭</translation>
     </message>
     <message>
         <source>All doors</source>
@@ -15141,75 +15141,75 @@
     </message>
     <message>
         <source>Assisted driving-Lane change assist system</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-变道辅助系统</translation>
     </message>
     <message>
         <source>Assisted driving-alarm sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-报警灵敏度</translation>
     </message>
     <message>
         <source>Assisted driving-alarm tone</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-报警提示音</translation>
     </message>
     <message>
         <source>Assisted driving-alert pedestrian sound</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-行人警示音</translation>
     </message>
     <message>
         <source>Assisted driving-assist mode</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-辅助模式</translation>
     </message>
     <message>
         <source>Assisted driving-blind spot detection</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-盲区检测</translation>
     </message>
     <message>
         <source>Assisted driving-forward ollision assist</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-前碰撞辅助</translation>
     </message>
     <message>
         <source>Assisted driving-lane departure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-车道偏离警告</translation>
     </message>
     <message>
         <source>Assisted driving-lane keeping assist</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-车道保持辅助</translation>
     </message>
     <message>
         <source>Assisted driving-parking assist system</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-泊车辅助系统</translation>
     </message>
     <message>
         <source>Assisted driving-pedestrian warning sound volume</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-行人警示音音量</translation>
     </message>
     <message>
         <source>Assisted driving-rear driving assistance system</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-后方行车辅助系统</translation>
     </message>
     <message>
         <source>Assisted driving-rear traffic warning</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-后方交通警告</translation>
     </message>
     <message>
         <source>Assisted driving-speed assist</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-速度辅助</translation>
     </message>
     <message>
         <source>Assisted driving-speed limit alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-限速报警</translation>
     </message>
     <message>
         <source>Assisted driving-speed limit alarm value</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-限速报警值</translation>
     </message>
     <message>
         <source>Assisted driving-traffic jam assist</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-交通拥堵辅助</translation>
     </message>
     <message>
         <source>Assisted driving-vibration eminder</source>
-        <translation type="unfinished"></translation>
+        <translation>辅助驾驶-振动提醒</translation>
     </message>
     <message>
         <source>Chinese</source>
@@ -15221,47 +15221,47 @@
     </message>
     <message>
         <source>Comfortable and convenient-car search instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-寻车指示</translation>
     </message>
     <message>
         <source>Comfortable and convenient-steering feel</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-转向手感</translation>
     </message>
     <message>
         <source>Comfortable and convenient-take me home</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-伴我回家</translation>
     </message>
     <message>
         <source>Comfortable and convenient-welcome light</source>
-        <translation type="unfinished"></translation>
+        <translation>舒适便捷-迎宾灯</translation>
     </message>
     <message>
         <source>Default dual area</source>
-        <translation type="unfinished"></translation>
+        <translation>默认双区</translation>
     </message>
     <message>
         <source>Default last time</source>
-        <translation type="unfinished"></translation>
+        <translation>默认上次</translation>
     </message>
     <message>
         <source>Default single area</source>
-        <translation type="unfinished"></translation>
+        <translation>默认单区</translation>
     </message>
     <message>
         <source>Driving maintenance-body stability control</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-车身稳定控制</translation>
     </message>
     <message>
         <source>Driving maintenance-body stability control mode</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-车身稳定控制模式</translation>
     </message>
     <message>
         <source>Driving maintenance-economic model</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-经济模式</translation>
     </message>
     <message>
         <source>Driving maintenance-steep descent control system</source>
-        <translation type="unfinished"></translation>
+        <translation>行车保养-陡坡缓降系统</translation>
     </message>
     <message>
         <source>English</source>
@@ -15269,47 +15269,47 @@
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>Intelligent speed limit</source>
-        <translation type="unfinished"></translation>
+        <translation>智能限速</translation>
     </message>
     <message>
         <source>Large</source>
-        <translation type="unfinished"></translation>
+        <translation>大</translation>
     </message>
     <message>
         <source>Lighting Control-take me home duration</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家时长</translation>
     </message>
     <message>
         <source>Lighting control-car search indication duration</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车指示时长</translation>
     </message>
     <message>
         <source>Lighting control-car search light(low beam lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车灯（近光灯）</translation>
     </message>
     <message>
         <source>Lighting control-car search light(rear fog lamps)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车灯（后雾灯）</translation>
     </message>
     <message>
         <source>Lighting control-car search light(reversing lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-寻车灯（倒车灯）</translation>
     </message>
     <message>
         <source>Lighting control-take me home(low beam lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家（近光灯）</translation>
     </message>
     <message>
         <source>Lighting control-take me home(rear fog lamps)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家（后雾灯）</translation>
     </message>
     <message>
         <source>Lighting control-take me home(reversing lights)</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光控制-伴我回家（倒车灯）</translation>
     </message>
     <message>
         <source>Lights only</source>
@@ -15317,19 +15317,19 @@
     </message>
     <message>
         <source>Lights+Speakers</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光+扬声器</translation>
     </message>
     <message>
         <source>Lock control-smart near car unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>门锁控制-智能近车解锁</translation>
     </message>
     <message>
         <source>Lock control-travel lock</source>
-        <translation type="unfinished"></translation>
+        <translation>门锁控制-行车落锁</translation>
     </message>
     <message>
         <source>Lock control-unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>门锁控制-解锁</translation>
     </message>
     <message>
         <source>Low</source>
@@ -15337,7 +15337,7 @@
     </message>
     <message>
         <source>Manual speed limit</source>
-        <translation type="unfinished"></translation>
+        <translation>手动限速</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -15345,7 +15345,7 @@
     </message>
     <message>
         <source>Meter brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>仪表亮度</translation>
     </message>
     <message>
         <source>Normal</source>
@@ -15365,47 +15365,47 @@
     </message>
     <message>
         <source>Others-automatic folding and unfolding of exterior rearview mirrors</source>
-        <translation type="unfinished"></translation>
+        <translation>其他-外后视镜自动折叠展开</translation>
     </message>
     <message>
         <source>Others-radar alarm tone</source>
-        <translation type="unfinished"></translation>
+        <translation>其他-雷达报警音</translation>
     </message>
     <message>
         <source>Overspeed alarm</source>
-        <translation type="unfinished"></translation>
+        <translation>超速报警</translation>
     </message>
     <message>
         <source>Small</source>
-        <translation type="unfinished"></translation>
+        <translation>小</translation>
     </message>
     <message>
         <source>Sports</source>
-        <translation type="unfinished"></translation>
+        <translation>运动</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>标准</translation>
     </message>
     <message>
         <source>Windows and locks-door lock</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗与门锁-门锁</translation>
     </message>
     <message>
         <source>Windows and locks-trunk opening</source>
-        <translation type="unfinished"></translation>
+        <translation>车窗与门锁-后备箱开启</translation>
     </message>
     <message>
         <source>driver side only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅驾驶员侧</translation>
     </message>
     <message>
         <source>fully open</source>
-        <translation type="unfinished"></translation>
+        <translation>全开</translation>
     </message>
     <message>
         <source>language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言</translation>
     </message>
     <message>
         <source>sports</source>
@@ -15420,47 +15420,47 @@
     <name>CarInfoItem72_15</name>
     <message>
         <source>Air PM2.5</source>
-        <translation type="unfinished"></translation>
+        <translation>空气PM2.5</translation>
     </message>
     <message>
         <source>Instantaneous current</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时电流</translation>
     </message>
     <message>
         <source>Instantaneous voltage</source>
-        <translation type="unfinished"></translation>
+        <translation>瞬时电压</translation>
     </message>
     <message>
         <source>MG-15 Ruiteng</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-15款锐腾</translation>
     </message>
     <message>
         <source>MG-16 Ruiteng</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-16款锐腾</translation>
     </message>
     <message>
         <source>MG-19 EZS</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-19款EZS</translation>
     </message>
     <message>
         <source>MG-19 HS</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-19款HS</translation>
     </message>
     <message>
         <source>MG-19~20 MG6</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-19~20款MG6</translation>
     </message>
     <message>
         <source>MG-20 MG5</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-20款MG5</translation>
     </message>
     <message>
         <source>MG-20 ZS</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-20款ZS</translation>
     </message>
     <message>
         <source>MG-7 ZS</source>
-        <translation type="unfinished"></translation>
+        <translation>MG-7款ZS</translation>
     </message>
     <message>
         <source>Model selection</source>
@@ -15468,59 +15468,59 @@
     </message>
     <message>
         <source>Motor speed</source>
-        <translation type="unfinished"></translation>
+        <translation>电机转速</translation>
     </message>
     <message>
         <source>Roewe-17 Roewe Ei6 hybrid</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-17款荣威Ei6混动</translation>
     </message>
     <message>
         <source>Roewe-18 Roewe RX8 high-end</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-18款荣威RX8高配</translation>
     </message>
     <message>
         <source>Roewe-21 Roewe i5 (1.5T GT DCT light speed version)</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-21款荣威i5（1.5T GT DCT光速版）</translation>
     </message>
     <message>
         <source>Roewe-Ei5 low profile</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-Ei5低配</translation>
     </message>
     <message>
         <source>Roewe-Ei5 mid-spec</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-Ei5中配</translation>
     </message>
     <message>
         <source>Roewe-Other</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-其他</translation>
     </message>
     <message>
         <source>Roewe-RX3</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-RX3</translation>
     </message>
     <message>
         <source>Roewe-Roewe RX5</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-荣威RX5</translation>
     </message>
     <message>
         <source>Roewe-Roewe RX8</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-荣威RX8</translation>
     </message>
     <message>
         <source>Roewe-Roewe i5</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-荣威i5</translation>
     </message>
     <message>
         <source>Roewe-Roewe i6</source>
-        <translation type="unfinished"></translation>
+        <translation>荣威-荣威i6</translation>
     </message>
     <message>
         <source>ambient temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>环境温度</translation>
     </message>
     <message>
         <source>front radar distance</source>
-        <translation type="unfinished"></translation>
+        <translation>前雷达距离</translation>
     </message>
     <message>
         <source>null</source>
@@ -15528,7 +15528,7 @@
     </message>
     <message>
         <source>rear radar distance</source>
-        <translation type="unfinished"></translation>
+        <translation>后雷达距离</translation>
     </message>
 </context>
 <context>
@@ -15909,73 +15909,73 @@
     <name>CarInfoItem72_4</name>
     <message>
         <source>km ordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>km纵坐标</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_5</name>
     <message>
         <source>km ordinate</source>
-        <translation type="unfinished"></translation>
+        <translation>km纵坐标</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_6</name>
     <message>
         <source>Average fuel consumption for the last 250km</source>
-        <translation type="unfinished"></translation>
+        <translation>最近250km平均油耗</translation>
     </message>
     <message>
         <source>Average power consumption for the last 250km</source>
-        <translation type="unfinished"></translation>
+        <translation>最近250km平均电耗</translation>
     </message>
     <message>
         <source>Driving charging mode</source>
-        <translation type="unfinished"></translation>
+        <translation>行车充电模式</translation>
     </message>
     <message>
         <source>Energy recovery class</source>
-        <translation type="unfinished"></translation>
+        <translation>能量回收等级</translation>
     </message>
     <message>
         <source>Energy recovery mode</source>
-        <translation type="unfinished"></translation>
+        <translation>能量回收模式</translation>
     </message>
     <message>
         <source>Engine driving mode</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机驱动模式</translation>
     </message>
     <message>
         <source>Fuel life</source>
-        <translation type="unfinished"></translation>
+        <translation>燃油续航</translation>
     </message>
     <message>
         <source>Hybrid system mode</source>
-        <translation type="unfinished"></translation>
+        <translation>混动系统模式</translation>
     </message>
     <message>
         <source>Idle Charge Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>怠速充电模式</translation>
     </message>
     <message>
         <source>Parallel driving mode</source>
-        <translation type="unfinished"></translation>
+        <translation>并联驱动模式</translation>
     </message>
     <message>
         <source>Pure electric charging mode</source>
-        <translation type="unfinished"></translation>
+        <translation>纯电充电模式</translation>
     </message>
     <message>
         <source>Series driving mode</source>
-        <translation type="unfinished"></translation>
+        <translation>串联驱动模式</translation>
     </message>
     <message>
         <source>battery life</source>
-        <translation type="unfinished"></translation>
+        <translation>电池续航</translation>
     </message>
     <message>
         <source>default mode</source>
-        <translation type="unfinished"></translation>
+        <translation>默认模式</translation>
     </message>
     <message>
         <source>light</source>
@@ -15987,42 +15987,42 @@
     </message>
     <message>
         <source>powerful</source>
-        <translation type="unfinished"></translation>
+        <translation>强劲</translation>
     </message>
     <message>
         <source>total battery life</source>
-        <translation type="unfinished"></translation>
+        <translation>电池总续航</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_7</name>
     <message>
         <source>CUSTOM</source>
-        <translation type="unfinished"></translation>
+        <translation>CUSTOM</translation>
     </message>
     <message>
         <source>Intake air temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>进气温度</translation>
     </message>
     <message>
         <source>SUPER SPORT</source>
-        <translation type="unfinished"></translation>
+        <translation>SUPER SPORT</translation>
     </message>
     <message>
         <source>State under custom-comfort air conditioning</source>
-        <translation type="unfinished"></translation>
+        <translation>自定义状态-舒适空调</translation>
     </message>
     <message>
         <source>State under custom-dynamic response</source>
-        <translation type="unfinished"></translation>
+        <translation>自定义状态-动力响应</translation>
     </message>
     <message>
         <source>State under custom-steering feel</source>
-        <translation type="unfinished"></translation>
+        <translation>自定义状态-转向手感</translation>
     </message>
     <message>
         <source>coolant temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>冷却液温度</translation>
     </message>
     <message>
         <source>driving mode</source>
@@ -16034,7 +16034,7 @@
     </message>
     <message>
         <source>hydraulics pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>液压</translation>
     </message>
     <message>
         <source>sports</source>
@@ -16046,7 +16046,7 @@
     </message>
     <message>
         <source>turbo pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>涡轮压力</translation>
     </message>
 </context>
 <context>
@@ -16069,35 +16069,35 @@
     </message>
     <message>
         <source>Temperature-back left</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-左后</translation>
     </message>
     <message>
         <source>Temperature-back right</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-右后</translation>
     </message>
     <message>
         <source>Temperature-front left</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-左前</translation>
     </message>
     <message>
         <source>Temperature-front right</source>
-        <translation type="unfinished"></translation>
+        <translation>温度-右前</translation>
     </message>
     <message>
         <source>Tire pressure back left</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压-左后</translation>
     </message>
     <message>
         <source>Tire pressure back right</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压-右后</translation>
     </message>
     <message>
         <source>Tire pressure front left</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压-左前</translation>
     </message>
     <message>
         <source>Tire pressure front right</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压-右前</translation>
     </message>
     <message>
         <source>abnormal</source>
@@ -16116,27 +16116,27 @@
     <name>CarInfoItem72_9</name>
     <message>
         <source>2D</source>
-        <translation type="unfinished"></translation>
+        <translation>2D</translation>
     </message>
     <message>
         <source>3D</source>
-        <translation type="unfinished"></translation>
+        <translation>3D</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>后</translation>
     </message>
     <message>
         <source>Back Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左后</translation>
     </message>
     <message>
         <source>Back Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右后</translation>
     </message>
     <message>
         <source>Back Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>后方放大</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -16144,23 +16144,23 @@
     </message>
     <message>
         <source>Front</source>
-        <translation type="unfinished"></translation>
+        <translation>前</translation>
     </message>
     <message>
         <source>Front Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左前</translation>
     </message>
     <message>
         <source>Front Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右前</translation>
     </message>
     <message>
         <source>Front Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>前方放大</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>左</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -16172,39 +16172,39 @@
     </message>
     <message>
         <source>Panorama status-car auxiliary line</source>
-        <translation type="unfinished"></translation>
+        <translation>全景状态-车辆辅助线</translation>
     </message>
     <message>
         <source>Panorama status-condition</source>
-        <translation type="unfinished"></translation>
+        <translation>全景状态-状态</translation>
     </message>
     <message>
         <source>Panorama status-features</source>
-        <translation type="unfinished"></translation>
+        <translation>全景状态-功能</translation>
     </message>
     <message>
         <source>Panorama status-model</source>
-        <translation type="unfinished"></translation>
+        <translation>全景状态-车型</translation>
     </message>
     <message>
         <source>Panorama status-turn on the turn signal automatically at low speed 360</source>
-        <translation type="unfinished"></translation>
+        <translation>全景状态-低速打转向灯自动开启360</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>右</translation>
     </message>
     <message>
         <source>camera status</source>
-        <translation type="unfinished"></translation>
+        <translation>摄像头状态</translation>
     </message>
     <message>
         <source>dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>动态</translation>
     </message>
     <message>
         <source>dynamic+static</source>
-        <translation type="unfinished"></translation>
+        <translation>动态+静态</translation>
     </message>
     <message>
         <source>have</source>
@@ -16216,7 +16216,7 @@
     </message>
     <message>
         <source>static</source>
-        <translation type="unfinished"></translation>
+        <translation>静态</translation>
     </message>
     <message>
         <source>without</source>
@@ -17622,35 +17622,35 @@
     <name>CarInfoItem87_1</name>
     <message>
         <source>Amplifier</source>
-        <translation type="unfinished"></translation>
+        <translation>功放</translation>
     </message>
     <message>
         <source>Amplifier 1</source>
-        <translation type="unfinished"></translation>
+        <translation>功放1</translation>
     </message>
     <message>
         <source>Amplifier 2</source>
-        <translation type="unfinished"></translation>
+        <translation>功放2</translation>
     </message>
     <message>
         <source>Bass</source>
-        <translation type="unfinished"></translation>
+        <translation>低音</translation>
     </message>
     <message>
         <source>Centrik speaker</source>
-        <translation type="unfinished"></translation>
+        <translation>中置扬声器</translation>
     </message>
     <message>
         <source>Classical</source>
-        <translation type="unfinished"></translation>
+        <translation>古典</translation>
     </message>
     <message>
         <source>Jazz-Blues</source>
-        <translation type="unfinished"></translation>
+        <translation>爵士-蓝调</translation>
     </message>
     <message>
         <source>Loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>响度</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -17666,15 +17666,15 @@
     </message>
     <message>
         <source>Pop-Rock</source>
-        <translation type="unfinished"></translation>
+        <translation>流行-摇滚</translation>
     </message>
     <message>
         <source>Subwoofer</source>
-        <translation type="unfinished"></translation>
+        <translation>重低音</translation>
     </message>
     <message>
         <source>Techno</source>
-        <translation type="unfinished"></translation>
+        <translation>电子</translation>
     </message>
     <message>
         <source>Treble</source>
@@ -17682,110 +17682,110 @@
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>用户</translation>
     </message>
     <message>
         <source>Vocal</source>
-        <translation type="unfinished"></translation>
+        <translation>人声</translation>
     </message>
     <message>
         <source>Volume linked to speed</source>
-        <translation type="unfinished"></translation>
+        <translation>音量随车速调节</translation>
     </message>
     <message>
         <source>balance left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>左右平衡</translation>
     </message>
     <message>
         <source>front and rear balance</source>
-        <translation type="unfinished"></translation>
+        <translation>前后平衡</translation>
     </message>
     <message>
         <source>sound effect</source>
-        <translation type="unfinished"></translation>
+        <translation>音效</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem87_10</name>
     <message>
         <source>Power consumption first grid</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗第一格</translation>
     </message>
     <message>
         <source>Power consumption second grid</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗第二格</translation>
     </message>
     <message>
         <source>Power consumption third grid</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗第三格</translation>
     </message>
     <message>
         <source>Power consumption fourth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗第四格</translation>
     </message>
     <message>
         <source>Power consumption fifth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗第五格</translation>
     </message>
     <message>
         <source>Power consumption sixth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗第六格</translation>
     </message>
     <message>
         <source>Recycle the first grid</source>
-        <translation type="unfinished"></translation>
+        <translation>回收第一格</translation>
     </message>
     <message>
         <source>Recycle the second grid</source>
-        <translation type="unfinished"></translation>
+        <translation>回收第二格</translation>
     </message>
     <message>
         <source>Recycle the third grid</source>
-        <translation type="unfinished"></translation>
+        <translation>回收第三格</translation>
     </message>
     <message>
         <source>Recycle the fourth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>回收第四格</translation>
     </message>
     <message>
         <source>Recycle the fifth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>回收第五格</translation>
     </message>
     <message>
         <source>Recycle the sixth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>回收第六格</translation>
     </message>
     <message>
         <source>Fuel consumption first grid</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗第一格</translation>
     </message>
     <message>
         <source>Fuel consumption second grid</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗第二格</translation>
     </message>
     <message>
         <source>Fuel consumption third grid</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗第三格</translation>
     </message>
     <message>
         <source>Fuel consumption fourth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗第四格</translation>
     </message>
     <message>
         <source>Fuel consumption fifth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗第五格</translation>
     </message>
     <message>
         <source>Fuel consumption sixth grid</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗第六格</translation>
     </message>
     <message>
         <source>0~180min</source>
-        <translation type="unfinished"></translation>
+        <translation>0~180min</translation>
     </message>
     <message>
         <source>0~60min</source>
-        <translation type="unfinished"></translation>
+        <translation>0~60min</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -17793,42 +17793,42 @@
     </message>
     <message>
         <source>Average power consumption</source>
-        <translation type="unfinished"></translation>
+        <translation>平均电耗</translation>
     </message>
     <message>
         <source>Fuel consumption graph-X axis spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗曲线-X轴间距</translation>
     </message>
     <message>
         <source>Power consumption graph-X axis spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>电耗曲线-X轴间距</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem87_11</name>
     <message>
         <source>10km</source>
-        <translation type="unfinished"></translation>
+        <translation>10km</translation>
     </message>
     <message>
         <source>20km</source>
-        <translation type="unfinished"></translation>
+        <translation>20km</translation>
     </message>
     <message>
         <source>Charging-total time(Minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电-总时间（分）</translation>
     </message>
     <message>
         <source>Charging-total time(hours)</source>
-        <translation type="unfinished"></translation>
+        <translation>充电-总时间（时）</translation>
     </message>
     <message>
         <source>Energy reserve-distance</source>
-        <translation type="unfinished"></translation>
+        <translation>能量储备-里程</translation>
     </message>
     <message>
         <source>MAX</source>
-        <translation type="unfinished"></translation>
+        <translation>MAX</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -17840,7 +17840,7 @@
     </message>
     <message>
         <source>energy reserve</source>
-        <translation type="unfinished"></translation>
+        <translation>能量储备</translation>
     </message>
 </context>
 <context>
@@ -17851,27 +17851,27 @@
     </message>
     <message>
         <source>Average fuel consumption 2</source>
-        <translation type="unfinished"></translation>
+        <translation>平均油耗2</translation>
     </message>
     <message>
         <source>Clear the PAGE1 parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>清除PAGE1参数</translation>
     </message>
     <message>
         <source>Clear the PAGE2 parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>清除PAGE2参数</translation>
     </message>
     <message>
         <source>Default mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>默认里程</translation>
     </message>
     <message>
         <source>Indicates accumulated mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>累计里程</translation>
     </message>
     <message>
         <source>Indicates accumulated mileage 2</source>
-        <translation type="unfinished"></translation>
+        <translation>累计里程2</translation>
     </message>
     <message>
         <source>Instant fuel consumption</source>
@@ -17887,43 +17887,43 @@
     </message>
     <message>
         <source>Page0</source>
-        <translation type="unfinished"></translation>
+        <translation>Page0</translation>
     </message>
     <message>
         <source>Page1</source>
-        <translation type="unfinished"></translation>
+        <translation>Page1</translation>
     </message>
     <message>
         <source>Page2</source>
-        <translation type="unfinished"></translation>
+        <translation>Page2</translation>
     </message>
     <message>
         <source>Set predetermined mileage parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>设置预定里程参数</translation>
     </message>
     <message>
         <source>Set scheduled mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>设置预定里程</translation>
     </message>
     <message>
         <source>Start stop function timing</source>
-        <translation type="unfinished"></translation>
+        <translation>启停功能计时</translation>
     </message>
     <message>
         <source>Trip computer currently displayed page</source>
-        <translation type="unfinished"></translation>
+        <translation>行车电脑当前显示页</translation>
     </message>
     <message>
         <source>average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>average speed 2</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速2</translation>
     </message>
     <message>
         <source>clear</source>
-        <translation type="unfinished"></translation>
+        <translation>清除</translation>
     </message>
     <message>
         <source>normal</source>
@@ -17935,62 +17935,62 @@
     </message>
     <message>
         <source>set mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>设置里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem87_3</name>
     <message>
         <source>180° View</source>
-        <translation type="unfinished"></translation>
+        <translation>180°视图</translation>
     </message>
     <message>
         <source>3008</source>
-        <translation type="unfinished"></translation>
+        <translation>3008</translation>
     </message>
     <message>
         <source>3008,408 before 13 and 13,etc.,keep the original car small screen</source>
-        <translation type="unfinished"></translation>
+        <translation>3008、13款之前的408及13款等，保留原车小屏</translation>
     </message>
     <message>
         <source>308,408,C3-XR retain the original car screen</source>
-        <translation type="unfinished"></translation>
+        <translation>308、408、C3-XR保留原车屏</translation>
     </message>
     <message>
         <source>360°</source>
-        <translation type="unfinished"></translation>
+        <translation>360°</translation>
     </message>
     <message>
         <source>4008 Keep the original car screen</source>
-        <translation type="unfinished"></translation>
+        <translation>4008保留原车屏</translation>
     </message>
     <message>
         <source>Air volume intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>风量强度</translation>
     </message>
     <message>
         <source>Auto View</source>
-        <translation type="unfinished"></translation>
+        <translation>自动视图</translation>
     </message>
     <message>
         <source>Back View</source>
-        <translation type="unfinished"></translation>
+        <translation>后视图</translation>
     </message>
     <message>
         <source>Backlight brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>背光亮度</translation>
     </message>
     <message>
         <source>Brazil version C4</source>
-        <translation type="unfinished"></translation>
+        <translation>巴西版C4</translation>
     </message>
     <message>
         <source>Compass information-directions</source>
-        <translation type="unfinished"></translation>
+        <translation>指南针信息-方向</translation>
     </message>
     <message>
         <source>Driving Assist</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶辅助</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -17998,27 +17998,27 @@
     </message>
     <message>
         <source>Fatigue Monitoring</source>
-        <translation type="unfinished"></translation>
+        <translation>疲劳监测</translation>
     </message>
     <message>
         <source>Front View</source>
-        <translation type="unfinished"></translation>
+        <translation>前视图</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>高</translation>
     </message>
     <message>
         <source>High profile</source>
-        <translation type="unfinished"></translation>
+        <translation>高配</translation>
     </message>
     <message>
         <source>LCD meter custom mode(left)</source>
-        <translation type="unfinished"></translation>
+        <translation>液晶仪表自定义模式（左）</translation>
     </message>
     <message>
         <source>LCD meter custom mode(right)</source>
-        <translation type="unfinished"></translation>
+        <translation>液晶仪表自定义模式（右）</translation>
     </message>
     <message>
         <source>Low</source>
@@ -18030,7 +18030,7 @@
     </message>
     <message>
         <source>Media</source>
-        <translation type="unfinished"></translation>
+        <translation>媒体</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -18038,59 +18038,59 @@
     </message>
     <message>
         <source>Medium profile</source>
-        <translation type="unfinished"></translation>
+        <translation>中配</translation>
     </message>
     <message>
         <source>Mixed Streaming</source>
-        <translation type="unfinished"></translation>
+        <translation>混合流媒体</translation>
     </message>
     <message>
         <source>Navigation</source>
-        <translation type="unfinished"></translation>
+        <translation>导航</translation>
     </message>
     <message>
         <source>Not muted</source>
-        <translation type="unfinished"></translation>
+        <translation>未静音</translation>
     </message>
     <message>
         <source>Panorama mode</source>
-        <translation type="unfinished"></translation>
+        <translation>全景模式</translation>
     </message>
     <message>
         <source>Panorama state</source>
-        <translation type="unfinished"></translation>
+        <translation>全景状态</translation>
     </message>
     <message>
         <source>Standard View</source>
-        <translation type="unfinished"></translation>
+        <translation>标准视图</translation>
     </message>
     <message>
         <source>Tachometer</source>
-        <translation type="unfinished"></translation>
+        <translation>转速表</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Trip Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>行车电脑</translation>
     </message>
     <message>
         <source>Zoom View</source>
-        <translation type="unfinished"></translation>
+        <translation>放大视图</translation>
     </message>
     <message>
         <source>car model</source>
-        <translation type="unfinished"></translation>
+        <translation>车型</translation>
     </message>
     <message>
         <source>configure</source>
-        <translation type="unfinished"></translation>
+        <translation>配置</translation>
     </message>
     <message>
         <source>language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言</translation>
     </message>
     <message>
         <source>mute</source>
@@ -18098,7 +18098,7 @@
     </message>
     <message>
         <source>mute control</source>
-        <translation type="unfinished"></translation>
+        <translation>静音控制</translation>
     </message>
     <message>
         <source>null</source>
@@ -18106,7 +18106,7 @@
     </message>
     <message>
         <source>other</source>
-        <translation type="unfinished"></translation>
+        <translation>其他</translation>
     </message>
     <message>
         <source>quit</source>
@@ -18114,7 +18114,7 @@
     </message>
     <message>
         <source>volume value</source>
-        <translation type="unfinished"></translation>
+        <translation>音量值</translation>
     </message>
 </context>
 <context>
@@ -18157,15 +18157,15 @@
     </message>
     <message>
         <source>Preset switch</source>
-        <translation type="unfinished"></translation>
+        <translation>预设开关</translation>
     </message>
     <message>
         <source>time(Minute)</source>
-        <translation type="unfinished"></translation>
+        <translation>时间（分）</translation>
     </message>
     <message>
         <source>time(hour)</source>
-        <translation type="unfinished"></translation>
+        <translation>时间（时）</translation>
     </message>
 </context>
 <context>
@@ -18188,19 +18188,19 @@
     </message>
     <message>
         <source>Blind spot detection</source>
-        <translation type="unfinished"></translation>
+        <translation>盲区检测</translation>
     </message>
     <message>
         <source>Bright Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>亮棕色</translation>
     </message>
     <message>
         <source>Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>摄氏度</translation>
     </message>
     <message>
         <source>Central door lock status</source>
-        <translation type="unfinished"></translation>
+        <translation>中控门锁状态</translation>
     </message>
     <message>
         <source>Chinese</source>
@@ -18328,15 +18328,15 @@
     </message>
     <message>
         <source>Page0</source>
-        <translation type="unfinished"></translation>
+        <translation>Page0</translation>
     </message>
     <message>
         <source>Page1</source>
-        <translation type="unfinished"></translation>
+        <translation>Page1</translation>
     </message>
     <message>
         <source>Page2</source>
-        <translation type="unfinished"></translation>
+        <translation>Page2</translation>
     </message>
     <message>
         <source>Rear view mirror adaptive</source>
@@ -18348,7 +18348,7 @@
     </message>
     <message>
         <source>Reversing state</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车状态</translation>
     </message>
     <message>
         <source>Sky Blue</source>
@@ -18364,7 +18364,7 @@
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>标准</translation>
     </message>
     <message>
         <source>Take me home lighting</source>
@@ -18384,7 +18384,7 @@
     </message>
     <message>
         <source>Trip computer currently displayed page</source>
-        <translation type="unfinished"></translation>
+        <translation>行车电脑当前显示页</translation>
     </message>
     <message>
         <source>Unlock the trunk only</source>
@@ -18428,7 +18428,7 @@
     </message>
     <message>
         <source>language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言</translation>
     </message>
     <message>
         <source>light status</source>
@@ -18668,7 +18668,7 @@
     </message>
     <message>
         <source>Economy</source>
-        <translation type="unfinished"></translation>
+        <translation>经济</translation>
     </message>
     <message>
         <source>Electric</source>
@@ -18704,7 +18704,7 @@
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>标准</translation>
     </message>
     <message>
         <source>The engine charges the battery</source>
