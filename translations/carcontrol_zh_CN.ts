@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>Tire pressure monitoring</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压监测</translation>
     </message>
     <message>
         <source>Amplifier Information</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>On-board computer information</source>
-        <translation type="unfinished"></translation>
+        <translation>行车电脑信息</translation>
     </message>
     <message>
         <source>Vehicle Setup Information 2</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Vehicle Setup Information 1</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息1</translation>
     </message>
     <message>
         <source>Vehicle Setup Information</source>
@@ -116,19 +116,19 @@
     </message>
     <message>
         <source>Vehicle Information 1</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息1</translation>
     </message>
     <message>
         <source>Setting item information</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项信息</translation>
     </message>
     <message>
         <source>Setting item display</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项显示</translation>
     </message>
     <message>
         <source>Body Information</source>
-        <translation type="unfinished"></translation>
+        <translation>车身信息</translation>
     </message>
     <message>
         <source>Voice control feedback</source>
@@ -143,37 +143,37 @@
     <name>CarExView123</name>
     <message>
         <source>Basic information</source>
-        <translation type="unfinished"></translation>
+        <translation>基本信息</translation>
     </message>
     <message>
         <source>Original car power release state</source>
-        <translation type="unfinished"></translation>
+        <translation>原车功放释放状态</translation>
     </message>
     <message>
         <source>Vehicle driving fuel consumption information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆行驶油耗信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView124</name>
     <message>
         <source>Basic information</source>
-        <translation type="unfinished"></translation>
+        <translation>基本信息</translation>
     </message>
     <message>
         <source>Vehicle settings information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息</translation>
     </message>
     <message>
         <source>CD/DVD status</source>
-        <translation type="unfinished"></translation>
+        <translation>CD/DVD状态</translation>
     </message>
 </context>
 <context>
     <name>CarExView27</name>
     <message>
         <source>This model doesn&apos;t support this feature</source>
-        <translation type="unfinished"></translation>
+        <translation>此车型不支持此功能</translation>
     </message>
 </context>
 <context>
@@ -273,19 +273,19 @@
     </message>
     <message>
         <source>Fuel consumption and mileage information</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗与里程信息</translation>
     </message>
     <message>
         <source>Power flow information</source>
-        <translation type="unfinished"></translation>
+        <translation>动力流信息</translation>
     </message>
     <message>
         <source>Original car radio data</source>
-        <translation type="unfinished"></translation>
+        <translation>原车收音数据</translation>
     </message>
     <message>
         <source>Backlight adjustment information</source>
-        <translation type="unfinished"></translation>
+        <translation>背光调节信息</translation>
     </message>
     <message>
         <source>Vehicle setting status</source>
@@ -308,7 +308,7 @@
     </message>
     <message>
         <source>Vehicle setting information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息</translation>
     </message>
     <message>
         <source>Amplifier information</source>
@@ -323,7 +323,7 @@
     <name>CarExView33</name>
     <message>
         <source>Compass information</source>
-        <translation type="unfinished"></translation>
+        <translation>指南针信息</translation>
     </message>
     <message>
         <source>Voice control feedback</source>
@@ -335,11 +335,11 @@
     </message>
     <message>
         <source>Original car settings</source>
-        <translation type="unfinished"></translation>
+        <translation>原车设置</translation>
     </message>
     <message>
         <source>New energy display information</source>
-        <translation type="unfinished"></translation>
+        <translation>新能源显示信息</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
@@ -347,15 +347,15 @@
     </message>
     <message>
         <source>New energy setting information</source>
-        <translation type="unfinished"></translation>
+        <translation>新能源设置信息</translation>
     </message>
     <message>
         <source>Intelligent perception system information</source>
-        <translation type="unfinished"></translation>
+        <translation>智能感知系统信息</translation>
     </message>
     <message>
         <source>Vehicle control information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆控制信息</translation>
     </message>
 </context>
 <context>
@@ -377,7 +377,7 @@
     <name>CarExView35</name>
     <message>
         <source>Vehicle setting information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息</translation>
     </message>
     <message>
         <source>Mileage information</source>
@@ -392,7 +392,7 @@
     </message>
     <message>
         <source>Fuel consumption and mileage information</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗与里程信息</translation>
     </message>
 </context>
 <context>
@@ -460,7 +460,7 @@
     </message>
     <message>
         <source>Panorama and Auxiliary</source>
-        <translation type="unfinished"></translation>
+        <translation>全景与辅助</translation>
     </message>
     <message>
         <source>Body setting status</source>
@@ -475,15 +475,15 @@
     </message>
     <message>
         <source>Vehicle Information 1</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆信息1</translation>
     </message>
     <message>
         <source>Setting item information</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项信息</translation>
     </message>
     <message>
         <source>Setting item display</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项显示</translation>
     </message>
 </context>
 <context>
@@ -537,23 +537,23 @@
     </message>
     <message>
         <source>Setting item status</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态</translation>
     </message>
     <message>
         <source>Setting item setting 1</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项设置1</translation>
     </message>
     <message>
         <source>Setting item setting 2</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项设置2</translation>
     </message>
     <message>
         <source>Panorama information</source>
-        <translation type="unfinished"></translation>
+        <translation>全景信息</translation>
     </message>
     <message>
         <source>PM2.5 data</source>
-        <translation type="unfinished"></translation>
+        <translation>PM2.5数据</translation>
     </message>
     <message>
         <source>Tire pressure information</source>
@@ -587,11 +587,11 @@
     </message>
     <message>
         <source>Original car setting information</source>
-        <translation type="unfinished"></translation>
+        <translation>原车设置信息</translation>
     </message>
     <message>
         <source>Original vehicle vehicle information 2</source>
-        <translation type="unfinished"></translation>
+        <translation>原车车辆信息2</translation>
     </message>
     <message>
         <source>Amplifier information</source>
@@ -599,18 +599,18 @@
     </message>
     <message>
         <source>CD status information</source>
-        <translation type="unfinished"></translation>
+        <translation>CD状态信息</translation>
     </message>
     <message>
         <source>Panorama information</source>
-        <translation type="unfinished"></translation>
+        <translation>全景信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView64</name>
     <message>
         <source>Energy management setup information</source>
-        <translation type="unfinished"></translation>
+        <translation>能量管理设置信息</translation>
     </message>
     <message>
         <source>Voice control feedback</source>
@@ -622,11 +622,11 @@
     </message>
     <message>
         <source>vehicle setup information</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置信息</translation>
     </message>
     <message>
         <source>Tire pressure warning message</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压警告信息</translation>
     </message>
     <message>
         <source>Vehicle Information</source>
@@ -634,7 +634,7 @@
     </message>
     <message>
         <source>automatic parking status</source>
-        <translation type="unfinished"></translation>
+        <translation>自动泊车状态</translation>
     </message>
     <message>
         <source>Panoramic information</source>
@@ -657,39 +657,39 @@
     </message>
     <message>
         <source>Security Settings Status Information</source>
-        <translation type="unfinished"></translation>
+        <translation>安全设置状态信息</translation>
     </message>
     <message>
         <source>Original car radio status information</source>
-        <translation type="unfinished"></translation>
+        <translation>原车收音状态信息</translation>
     </message>
     <message>
         <source>Original car amplifier settings</source>
-        <translation type="unfinished"></translation>
+        <translation>原车功放设置</translation>
     </message>
     <message>
         <source>CD/DVD media information</source>
-        <translation type="unfinished"></translation>
+        <translation>CD/DVD媒体信息</translation>
     </message>
     <message>
         <source>i-stop information</source>
-        <translation type="unfinished"></translation>
+        <translation>i-stop信息</translation>
     </message>
     <message>
         <source>fuel information</source>
-        <translation type="unfinished"></translation>
+        <translation>燃油信息</translation>
     </message>
     <message>
         <source>set item status</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态</translation>
     </message>
     <message>
         <source>driving display</source>
-        <translation type="unfinished"></translation>
+        <translation>行车显示</translation>
     </message>
     <message>
         <source>Maintenance information</source>
-        <translation type="unfinished"></translation>
+        <translation>保养信息</translation>
     </message>
     <message>
         <source>Basic Information</source>
@@ -697,7 +697,7 @@
     </message>
     <message>
         <source>Tire pressure display</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压显示</translation>
     </message>
 </context>
 <context>
@@ -766,22 +766,22 @@
     <name>CarExView68</name>
     <message>
         <source>vehicle settings</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置</translation>
     </message>
     <message>
         <source>Setting item status information</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态信息</translation>
     </message>
     <message>
         <source>Set item status 2 information</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态2信息</translation>
     </message>
 </context>
 <context>
     <name>CarExView69</name>
     <message>
         <source>vehicle settings</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置</translation>
     </message>
     <message>
         <source>Tire pressure information</source>
@@ -789,27 +789,27 @@
     </message>
     <message>
         <source>Original car setting item information feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>原车设置项信息反馈</translation>
     </message>
     <message>
         <source>360 panoramic information feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>360全景信息反馈</translation>
     </message>
     <message>
         <source>energy information</source>
-        <translation type="unfinished"></translation>
+        <translation>能量信息</translation>
     </message>
     <message>
         <source>Original car setting item information 2</source>
-        <translation type="unfinished"></translation>
+        <translation>原车设置项信息2</translation>
     </message>
     <message>
         <source>Dashcam settings</source>
-        <translation type="unfinished"></translation>
+        <translation>行车记录仪设置</translation>
     </message>
     <message>
         <source>voice control</source>
-        <translation type="unfinished"></translation>
+        <translation>语音控制</translation>
     </message>
 </context>
 <context>
@@ -828,11 +828,11 @@
     </message>
     <message>
         <source>set item status</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态</translation>
     </message>
     <message>
         <source>Tire pressure display</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压显示</translation>
     </message>
 </context>
 <context>
@@ -937,19 +937,19 @@
     </message>
     <message>
         <source>Original car information</source>
-        <translation type="unfinished"></translation>
+        <translation>原车信息</translation>
     </message>
     <message>
         <source>The status of the original car setting item is returned</source>
-        <translation type="unfinished"></translation>
+        <translation>原车设置项状态反馈</translation>
     </message>
     <message>
         <source>original car fault information</source>
-        <translation type="unfinished"></translation>
+        <translation>原车故障信息</translation>
     </message>
     <message>
         <source>Car health examination</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆健康检查</translation>
     </message>
 </context>
 <context>
@@ -972,7 +972,7 @@
     </message>
     <message>
         <source>vehicle settings</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆设置</translation>
     </message>
 </context>
 <context>
@@ -995,22 +995,22 @@
     </message>
     <message>
         <source>Original car setup information</source>
-        <translation type="unfinished"></translation>
+        <translation>原车设置信息</translation>
     </message>
     <message>
         <source>energy information</source>
-        <translation type="unfinished"></translation>
+        <translation>能量信息</translation>
     </message>
     <message>
         <source>energy efficient driving</source>
-        <translation type="unfinished"></translation>
+        <translation>节能驾驶</translation>
     </message>
 </context>
 <context>
     <name>CarExView80</name>
     <message>
         <source>AVM set feedback status</source>
-        <translation type="unfinished"></translation>
+        <translation>AVM设置反馈状态</translation>
     </message>
     <message>
         <source>body information</source>
@@ -1104,19 +1104,19 @@
     </message>
     <message>
         <source>Rear seat air conditioner information</source>
-        <translation type="unfinished"></translation>
+        <translation>后排空调信息</translation>
     </message>
     <message>
         <source>Vehicle Control Information 1</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆控制信息1</translation>
     </message>
     <message>
         <source>CD status information</source>
-        <translation type="unfinished"></translation>
+        <translation>CD状态信息</translation>
     </message>
     <message>
         <source>Vehicle Control Information 3</source>
-        <translation type="unfinished"></translation>
+        <translation>车辆控制信息3</translation>
     </message>
     <message>
         <source>Amplifier status</source>
@@ -1124,7 +1124,7 @@
     </message>
     <message>
         <source>performance control system</source>
-        <translation type="unfinished"></translation>
+        <translation>性能控制系统</translation>
     </message>
     <message>
         <source>Hybrid information</source>
@@ -1169,11 +1169,11 @@
     </message>
     <message>
         <source>fuel consumption information</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗信息</translation>
     </message>
     <message>
         <source>Setting item information</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项信息</translation>
     </message>
 </context>
 <context>
@@ -1200,11 +1200,11 @@
     </message>
     <message>
         <source>Fuel consumption and mileage information</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗与里程信息</translation>
     </message>
     <message>
         <source>set item status</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项状态</translation>
     </message>
 </context>
 <context>
@@ -1215,11 +1215,11 @@
     </message>
     <message>
         <source>Setting item information</source>
-        <translation type="unfinished"></translation>
+        <translation>设置项信息</translation>
     </message>
     <message>
         <source>Trip information</source>
-        <translation type="unfinished"></translation>
+        <translation>行程信息</translation>
     </message>
 </context>
 <context>
@@ -2632,19 +2632,19 @@
     <name>CarInfoItem124_1</name>
     <message>
         <source>AUX</source>
-        <translation type="unfinished"></translation>
+        <translation>AUX</translation>
     </message>
     <message>
         <source>Avarage speed</source>
-        <translation type="unfinished"></translation>
+        <translation>平均车速</translation>
     </message>
     <message>
         <source>CD/DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>CD/DVD</translation>
     </message>
     <message>
         <source>Current audio selection status of decoding box</source>
-        <translation type="unfinished"></translation>
+        <translation>解码盒当前音源选择状态</translation>
     </message>
     <message>
         <source>Engine speed</source>
@@ -2652,15 +2652,15 @@
     </message>
     <message>
         <source>Light info</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光信息</translation>
     </message>
     <message>
         <source>Non P gear</source>
-        <translation type="unfinished"></translation>
+        <translation>非P挡</translation>
     </message>
     <message>
         <source>Non reversing</source>
-        <translation type="unfinished"></translation>
+        <translation>非倒车</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -2672,11 +2672,11 @@
     </message>
     <message>
         <source>P gear</source>
-        <translation type="unfinished"></translation>
+        <translation>P挡</translation>
     </message>
     <message>
         <source>P-gear or handbrake status</source>
-        <translation type="unfinished"></translation>
+        <translation>P挡或手刹状态</translation>
     </message>
     <message>
         <source>Park assist system status</source>
@@ -2684,7 +2684,7 @@
     </message>
     <message>
         <source>Reversing</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车中</translation>
     </message>
     <message>
         <source>Reversing state</source>
@@ -2692,7 +2692,7 @@
     </message>
     <message>
         <source>Version information</source>
-        <translation type="unfinished"></translation>
+        <translation>版本信息</translation>
     </message>
 </context>
 <context>
@@ -2727,19 +2727,19 @@
     </message>
     <message>
         <source>Adaptive front lighting system</source>
-        <translation type="unfinished"></translation>
+        <translation>自适应前照灯系统</translation>
     </message>
     <message>
         <source>Automatic headlights on</source>
-        <translation type="unfinished"></translation>
+        <translation>大灯自动开启</translation>
     </message>
     <message>
         <source>Automatic locking mode</source>
-        <translation type="unfinished"></translation>
+        <translation>自动落锁模式</translation>
     </message>
     <message>
         <source>Automatic relock time</source>
-        <translation type="unfinished"></translation>
+        <translation>自动重新落锁时间</translation>
     </message>
     <message>
         <source>Bright</source>
@@ -2747,15 +2747,15 @@
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>暗</translation>
     </message>
     <message>
         <source>Exit vehicle lock</source>
-        <translation type="unfinished"></translation>
+        <translation>下车落锁</translation>
     </message>
     <message>
         <source>Headlight off timer</source>
-        <translation type="unfinished"></translation>
+        <translation>大灯关闭时间</translation>
     </message>
     <message>
         <source>High</source>
@@ -2763,31 +2763,31 @@
     </message>
     <message>
         <source>Inductive wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>感应雨刮</translation>
     </message>
     <message>
         <source>Keyless lock sound volume</source>
-        <translation type="unfinished"></translation>
+        <translation>无钥匙上锁提示音音量</translation>
     </message>
     <message>
         <source>Lamp reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>车灯提醒</translation>
     </message>
     <message>
         <source>Lock:Unlock while,driving:flameout</source>
-        <translation type="unfinished"></translation>
+        <translation>上锁：行车时；解锁：熄火时</translation>
     </message>
     <message>
         <source>Lock:When driving</source>
-        <translation type="unfinished"></translation>
+        <translation>上锁：行车时</translation>
     </message>
     <message>
         <source>Lock:exiting park</source>
-        <translation type="unfinished"></translation>
+        <translation>上锁：离开P挡时</translation>
     </message>
     <message>
         <source>Lock:exiting park,unlock:enter park</source>
-        <translation type="unfinished"></translation>
+        <translation>上锁：离开P挡时；解锁：挂入P挡时</translation>
     </message>
     <message>
         <source>Medium</source>
@@ -2795,11 +2795,11 @@
     </message>
     <message>
         <source>Medium brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>中等亮度</translation>
     </message>
     <message>
         <source>Medium darkness</source>
-        <translation type="unfinished"></translation>
+        <translation>中等暗度</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -2807,31 +2807,31 @@
     </message>
     <message>
         <source>Once: All the doors</source>
-        <translation type="unfinished"></translation>
+        <translation>一次：所有车门</translation>
     </message>
     <message>
         <source>Once: the driver&apos;s side door, twice: all the doors</source>
-        <translation type="unfinished"></translation>
+        <translation>一次：驾驶员侧车门；两次：所有车门</translation>
     </message>
     <message>
         <source>Triple flashing turn signal</source>
-        <translation type="unfinished"></translation>
+        <translation>转向灯闪烁三次</translation>
     </message>
     <message>
         <source>Turn signal volume</source>
-        <translation type="unfinished"></translation>
+        <translation>转向灯音量</translation>
     </message>
     <message>
         <source>Unlock mode</source>
-        <translation type="unfinished"></translation>
+        <translation>解锁模式</translation>
     </message>
     <message>
         <source>When the door is closed-the interior lights automatically turn off</source>
-        <translation type="unfinished"></translation>
+        <translation>车门关闭时室内灯自动熄灭</translation>
     </message>
     <message>
         <source>When the door is opened-the interior lights automatically turn off</source>
-        <translation type="unfinished"></translation>
+        <translation>车门打开时室内灯自动熄灭</translation>
     </message>
     <message>
         <source>low</source>
@@ -2843,11 +2843,11 @@
     </message>
     <message>
         <source>not select</source>
-        <translation type="unfinished"></translation>
+        <translation>未选择</translation>
     </message>
     <message>
         <source>select</source>
-        <translation type="unfinished"></translation>
+        <translation>选择</translation>
     </message>
 </context>
 <context>
@@ -2862,35 +2862,35 @@
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>下一曲</translation>
     </message>
     <message>
         <source>Prev</source>
-        <translation type="unfinished"></translation>
+        <translation>上一曲</translation>
     </message>
     <message>
         <source>Fast forward</source>
-        <translation type="unfinished"></translation>
+        <translation>快进</translation>
     </message>
     <message>
         <source>Rewind quickly</source>
-        <translation type="unfinished"></translation>
+        <translation>快退</translation>
     </message>
     <message>
         <source>RPT</source>
-        <translation type="unfinished"></translation>
+        <translation>重复</translation>
     </message>
     <message>
         <source>RDM</source>
-        <translation type="unfinished"></translation>
+        <translation>随机</translation>
     </message>
     <message>
         <source>SCAM</source>
-        <translation type="unfinished"></translation>
+        <translation>扫描</translation>
     </message>
     <message>
         <source>AUX</source>
-        <translation type="unfinished"></translation>
+        <translation>AUX</translation>
     </message>
     <message>
         <source>CD</source>
@@ -2898,15 +2898,15 @@
     </message>
     <message>
         <source>DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>上</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>下</translation>
     </message>
     <message>
         <source>Left</source>
@@ -2922,55 +2922,55 @@
     </message>
     <message>
         <source>Discing</source>
-        <translation type="unfinished"></translation>
+        <translation>出碟</translation>
     </message>
     <message>
         <source>Captions OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>字幕关</translation>
     </message>
     <message>
         <source>Aspect ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>画面比例</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>列表</translation>
     </message>
     <message>
         <source>16:9 widescreen</source>
-        <translation type="unfinished"></translation>
+        <translation>16:9宽屏</translation>
     </message>
     <message>
         <source>4:3 Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>4:3画框</translation>
     </message>
     <message>
         <source>4:3 Panorama</source>
-        <translation type="unfinished"></translation>
+        <translation>4:3全景</translation>
     </message>
     <message>
         <source>RPT ON</source>
-        <translation type="unfinished"></translation>
+        <translation>重复开</translation>
     </message>
     <message>
         <source>RPT OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>重复关</translation>
     </message>
     <message>
         <source>RDM ON</source>
-        <translation type="unfinished"></translation>
+        <translation>随机开</translation>
     </message>
     <message>
         <source>RDM OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>随机关</translation>
     </message>
     <message>
         <source>Subtitle on</source>
-        <translation type="unfinished"></translation>
+        <translation>字幕开</translation>
     </message>
     <message>
         <source>Subtitle off</source>
-        <translation type="unfinished"></translation>
+        <translation>字幕关</translation>
     </message>
 </context>
 <context>
@@ -10068,27 +10068,27 @@
     </message>
     <message>
         <source>16A</source>
-        <translation type="unfinished"></translation>
+        <translation>16A</translation>
     </message>
     <message>
         <source>32A</source>
-        <translation type="unfinished"></translation>
+        <translation>32A</translation>
     </message>
     <message>
         <source>8A</source>
-        <translation type="unfinished"></translation>
+        <translation>8A</translation>
     </message>
     <message>
         <source>Adjustable charging SOC</source>
-        <translation type="unfinished"></translation>
+        <translation>可调充电SOC</translation>
     </message>
     <message>
         <source>Adjustable charging current</source>
-        <translation type="unfinished"></translation>
+        <translation>可调充电电流</translation>
     </message>
     <message>
         <source>End time</source>
-        <translation type="unfinished"></translation>
+        <translation>结束时间</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -10100,35 +10100,35 @@
     </message>
     <message>
         <source>The strength of energy recovery</source>
-        <translation type="unfinished"></translation>
+        <translation>能量回收强度</translation>
     </message>
     <message>
         <source>creep mode</source>
-        <translation type="unfinished"></translation>
+        <translation>蠕行模式</translation>
     </message>
     <message>
         <source>long battery life</source>
-        <translation type="unfinished"></translation>
+        <translation>长电池续航</translation>
     </message>
     <message>
         <source>long cruising range</source>
-        <translation type="unfinished"></translation>
+        <translation>长续航里程</translation>
     </message>
     <message>
         <source>make an appointment to charge:end time-minute</source>
-        <translation type="unfinished"></translation>
+        <translation>预约充电：结束时间-分</translation>
     </message>
     <message>
         <source>make an appointment to charge:end time-time</source>
-        <translation type="unfinished"></translation>
+        <translation>预约充电：结束时间-时</translation>
     </message>
     <message>
         <source>make an appointment to charge:start time-minute</source>
-        <translation type="unfinished"></translation>
+        <translation>预约充电：开始时间-分</translation>
     </message>
     <message>
         <source>make an appointment to charge:start time-time</source>
-        <translation type="unfinished"></translation>
+        <translation>预约充电：开始时间-时</translation>
     </message>
     <message>
         <source>powerful</source>
@@ -10140,11 +10140,11 @@
     </message>
     <message>
         <source>start time</source>
-        <translation type="unfinished"></translation>
+        <translation>开始时间</translation>
     </message>
     <message>
         <source>weak</source>
-        <translation type="unfinished"></translation>
+        <translation>弱</translation>
     </message>
 </context>
 <context>
@@ -10393,7 +10393,7 @@
     <name>CarInfoItem64_4</name>
     <message>
         <source>recover</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复</translation>
     </message>
     <message>
         <source>10s</source>
@@ -10401,7 +10401,7 @@
     </message>
     <message>
         <source>3 times</source>
-        <translation type="unfinished"></translation>
+        <translation>3次</translation>
     </message>
     <message>
         <source>30s</source>
@@ -10409,15 +10409,15 @@
     </message>
     <message>
         <source>360 panorama-automatic activation of the front radar</source>
-        <translation type="unfinished"></translation>
+        <translation>360全景-前雷达自动激活</translation>
     </message>
     <message>
         <source>360 panorama-low speed turn signal automatic activation</source>
-        <translation type="unfinished"></translation>
+        <translation>360全景-低速转向灯自动激活</translation>
     </message>
     <message>
         <source>5 times</source>
-        <translation type="unfinished"></translation>
+        <translation>5次</translation>
     </message>
     <message>
         <source>60s</source>
@@ -10425,7 +10425,7 @@
     </message>
     <message>
         <source>7 times</source>
-        <translation type="unfinished"></translation>
+        <translation>7次</translation>
     </message>
     <message>
         <source>90s</source>
@@ -10433,47 +10433,47 @@
     </message>
     <message>
         <source>Air conditioner type</source>
-        <translation type="unfinished"></translation>
+        <translation>空调类型</translation>
     </message>
     <message>
         <source>Air conditioning settings-air conditioning self drying</source>
-        <translation type="unfinished"></translation>
+        <translation>空调设置-空调自干燥</translation>
     </message>
     <message>
         <source>Air conditioning settings-air preconditioning</source>
-        <translation type="unfinished"></translation>
+        <translation>空调设置-空气预调节</translation>
     </message>
     <message>
         <source>Air conditioning settings-air purification system turns on automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>空调设置-空气净化系统自动开启</translation>
     </message>
     <message>
         <source>Air conditioning settings-bluetooth calls to reduce fan speed</source>
-        <translation type="unfinished"></translation>
+        <translation>空调设置-蓝牙通话降低风速</translation>
     </message>
     <message>
         <source>Air conditioning settings-unlock active ventilation</source>
-        <translation type="unfinished"></translation>
+        <translation>空调设置-解锁主动通风</translation>
     </message>
     <message>
         <source>Air conditioning settings-unlock down window ventilation</source>
-        <translation type="unfinished"></translation>
+        <translation>空调设置-解锁降窗通风</translation>
     </message>
     <message>
         <source>Air preconditioning custom-AM</source>
-        <translation type="unfinished"></translation>
+        <translation>空气预调节自定义-上午</translation>
     </message>
     <message>
         <source>Air preconditioning custom-Night</source>
-        <translation type="unfinished"></translation>
+        <translation>空气预调节自定义-夜间</translation>
     </message>
     <message>
         <source>Air preconditioning custom-PM</source>
-        <translation type="unfinished"></translation>
+        <translation>空气预调节自定义-下午</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>自动</translation>
     </message>
     <message>
         <source>Blue</source>
@@ -10481,79 +10481,79 @@
     </message>
     <message>
         <source>Body setting-secondary Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-二次上锁</translation>
     </message>
     <message>
         <source>Body settings-auto lock when flame out</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-熄火自动落锁</translation>
     </message>
     <message>
         <source>Body settings-automatic drivingLock</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-行车自动落锁</translation>
     </message>
     <message>
         <source>Body settings-automatic folding mirrors</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-后视镜自动折叠</translation>
     </message>
     <message>
         <source>Body settings-driving mode memory</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-驾驶模式记忆</translation>
     </message>
     <message>
         <source>Body settings-latch automatically close windows</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-上锁自动关窗</translation>
     </message>
     <message>
         <source>Body settings-main driver door unlocked separately</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-主驾车门单独解锁</translation>
     </message>
     <message>
         <source>Body settings-rain off sunroof settings</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-雨天自动关天窗</translation>
     </message>
     <message>
         <source>Body settings-remote unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-遥控解锁</translation>
     </message>
     <message>
         <source>Body settings-side window light function</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-侧窗灯光功能</translation>
     </message>
     <message>
         <source>Body settings-smart welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-智能迎宾</translation>
     </message>
     <message>
         <source>Body settings-unlock feedback method</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-解锁反馈方式</translation>
     </message>
     <message>
         <source>Body settings-window delay time</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-车窗延时时间</translation>
     </message>
     <message>
         <source>Body settings-window remote control</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-车窗遥控</translation>
     </message>
     <message>
         <source>Body settings-wiper assist after reversing</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-倒车后雨刮辅助</translation>
     </message>
     <message>
         <source>Body settings-wireless charging switch function</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-无线充电开关功能</translation>
     </message>
     <message>
         <source>Body setup-electric horn sound</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-电喇叭声音</translation>
     </message>
     <message>
         <source>Body setup-parking auto unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>车身设置-驻车自动解锁</translation>
     </message>
     <message>
         <source>Breathable</source>
-        <translation type="unfinished"></translation>
+        <translation>呼吸</translation>
     </message>
     <message>
         <source>Chinese</source>
@@ -10561,7 +10561,7 @@
     </message>
     <message>
         <source>Classic</source>
-        <translation type="unfinished"></translation>
+        <translation>经典</translation>
     </message>
     <message>
         <source>Comfort</source>
@@ -10569,35 +10569,35 @@
     </message>
     <message>
         <source>Correction only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅纠偏</translation>
     </message>
     <message>
         <source>Cruise control-integrated adaptive cruise</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航控制-集成式自适应巡航</translation>
     </message>
     <message>
         <source>Cruise control-target beep</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航控制-目标提示音</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>自定义</translation>
     </message>
     <message>
         <source>Custom driving mode-Power mode</source>
-        <translation type="unfinished"></translation>
+        <translation>自定义驾驶模式-动力模式</translation>
     </message>
     <message>
         <source>Custom driving mode-steering mode</source>
-        <translation type="unfinished"></translation>
+        <translation>自定义驾驶模式-转向模式</translation>
     </message>
     <message>
         <source>Dim while driving</source>
-        <translation type="unfinished"></translation>
+        <translation>行车时调暗</translation>
     </message>
     <message>
         <source>Early warning + correction</source>
-        <translation type="unfinished"></translation>
+        <translation>预警+纠偏</translation>
     </message>
     <message>
         <source>Economy</source>
@@ -10609,15 +10609,15 @@
     </message>
     <message>
         <source>Front collision assist-front collision warning</source>
-        <translation type="unfinished"></translation>
+        <translation>前碰撞辅助-前碰撞预警</translation>
     </message>
     <message>
         <source>Front collision avoidance assist-automatic emergency braking</source>
-        <translation type="unfinished"></translation>
+        <translation>前碰撞避免辅助-自动紧急制动</translation>
     </message>
     <message>
         <source>Front collision avoidance assist-front collision alert sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>前碰撞避免辅助-前碰撞预警灵敏度</translation>
     </message>
     <message>
         <source>Green</source>
@@ -10625,103 +10625,103 @@
     </message>
     <message>
         <source>Identify only hints</source>
-        <translation type="unfinished"></translation>
+        <translation>仅识别提示</translation>
     </message>
     <message>
         <source>Instrument sound-alarm sound</source>
-        <translation type="unfinished"></translation>
+        <translation>仪表声音-报警音</translation>
     </message>
     <message>
         <source>Instrument sound-beep sound</source>
-        <translation type="unfinished"></translation>
+        <translation>仪表声音-提示音</translation>
     </message>
     <message>
         <source>Instrument sound-welcome sound</source>
-        <translation type="unfinished"></translation>
+        <translation>仪表声音-迎宾音</translation>
     </message>
     <message>
         <source>Lane assist speed warning bias</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助超速报警偏差</translation>
     </message>
     <message>
         <source>Lane assist-early warning mode</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助-预警方式</translation>
     </message>
     <message>
         <source>Lane assist-function selection</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助-功能选择</translation>
     </message>
     <message>
         <source>Lane assist-sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助-灵敏度</translation>
     </message>
     <message>
         <source>Lane assist-speed limit sign recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助-限速标志识别</translation>
     </message>
     <message>
         <source>Lane assist-speed warning</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助-超速报警</translation>
     </message>
     <message>
         <source>Lane assist-speed warning sound</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助-超速报警音</translation>
     </message>
     <message>
         <source>Lane assist-vibration intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>车道辅助-振动强度</translation>
     </message>
     <message>
         <source>Light settings-auto high beam</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-自动远光灯</translation>
     </message>
     <message>
         <source>Light setup-headlight delay</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-大灯延时</translation>
     </message>
     <message>
         <source>Light setup-rechargeable breathing light</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-充电呼吸灯</translation>
     </message>
     <message>
         <source>Lighting settings-ambient light brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-氛围灯亮度</translation>
     </message>
     <message>
         <source>Lighting settings-ambient light brightness switch</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-氛围灯亮度开关</translation>
     </message>
     <message>
         <source>Lighting settings-ambient light color</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-氛围灯颜色</translation>
     </message>
     <message>
         <source>Lighting settings-ambient light music follow up function</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-氛围灯随音乐律动</translation>
     </message>
     <message>
         <source>Lighting settings-ambient lighting function</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-氛围灯功能</translation>
     </message>
     <message>
         <source>Lighting settings-automatic adjustment of ambient light</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-氛围灯自动调节</translation>
     </message>
     <message>
         <source>Lighting settings-automatic adjustment of ambient lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-氛围照明自动调节</translation>
     </message>
     <message>
         <source>Lighting settings-one button steering</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-一键转向</translation>
     </message>
     <message>
         <source>Lighting setup-daytime running lights</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光设置-日间行车灯</translation>
     </message>
     <message>
         <source>Meter sound-volume level</source>
-        <translation type="unfinished"></translation>
+        <translation>仪表声音-音量等级</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -10741,31 +10741,31 @@
     </message>
     <message>
         <source>Quick control-windows</source>
-        <translation type="unfinished"></translation>
+        <translation>快捷控制-车窗</translation>
     </message>
     <message>
         <source>Quick controls-driving mode</source>
-        <translation type="unfinished"></translation>
+        <translation>快捷控制-驾驶模式</translation>
     </message>
     <message>
         <source>Rear warning-parallel assist</source>
-        <translation type="unfinished"></translation>
+        <translation>后方预警-并线辅助</translation>
     </message>
     <message>
         <source>Rear warning-rear end warning</source>
-        <translation type="unfinished"></translation>
+        <translation>后方预警-追尾预警</translation>
     </message>
     <message>
         <source>Rear warning-rear rear end warning sound</source>
-        <translation type="unfinished"></translation>
+        <translation>后方预警-后方追尾预警音</translation>
     </message>
     <message>
         <source>Rear warning-reversing lateral warning</source>
-        <translation type="unfinished"></translation>
+        <translation>后方预警-倒车侧向预警</translation>
     </message>
     <message>
         <source>Recognition and disappearance are prompted</source>
-        <translation type="unfinished"></translation>
+        <translation>识别与消失均提示</translation>
     </message>
     <message>
         <source>Red</source>
@@ -10773,15 +10773,15 @@
     </message>
     <message>
         <source>Right blind spot image-front radar automatic activation</source>
-        <translation type="unfinished"></translation>
+        <translation>右侧盲区影像-前雷达自动激活</translation>
     </message>
     <message>
         <source>Right blind spot image-turn signal automatic activation</source>
-        <translation type="unfinished"></translation>
+        <translation>右侧盲区影像-转向灯自动激活</translation>
     </message>
     <message>
         <source>Royal Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>宝蓝色</translation>
     </message>
     <message>
         <source>Sport</source>
@@ -10793,31 +10793,31 @@
     </message>
     <message>
         <source>Sunroof settings-rain sensing sunroof</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗设置-雨量感应天窗</translation>
     </message>
     <message>
         <source>Sunroof settings-remote control sunroof</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗设置-遥控天窗</translation>
     </message>
     <message>
         <source>Sunroof settings-voice activated sunroof</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗设置-语音控制天窗</translation>
     </message>
     <message>
         <source>System settings-language</source>
-        <translation type="unfinished"></translation>
+        <translation>系统设置-语言</translation>
     </message>
     <message>
         <source>System settings-meter theme</source>
-        <translation type="unfinished"></translation>
+        <translation>系统设置-仪表主题</translation>
     </message>
     <message>
         <source>Technology</source>
-        <translation type="unfinished"></translation>
+        <translation>科技</translation>
     </message>
     <message>
         <source>Warning only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅警告</translation>
     </message>
     <message>
         <source>White</source>
@@ -10825,7 +10825,7 @@
     </message>
     <message>
         <source>all doors</source>
-        <translation type="unfinished"></translation>
+        <translation>所有车门</translation>
     </message>
     <message>
         <source>automatic</source>
@@ -10833,15 +10833,15 @@
     </message>
     <message>
         <source>car search</source>
-        <translation type="unfinished"></translation>
+        <translation>寻车</translation>
     </message>
     <message>
         <source>car search and door unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>寻车并解锁车门</translation>
     </message>
     <message>
         <source>closed while driving</source>
-        <translation type="unfinished"></translation>
+        <translation>行车时关闭</translation>
     </message>
     <message>
         <source>default</source>
@@ -10849,11 +10849,11 @@
     </message>
     <message>
         <source>door not closed</source>
-        <translation type="unfinished"></translation>
+        <translation>车门未关</translation>
     </message>
     <message>
         <source>driving door</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶员车门</translation>
     </message>
     <message>
         <source>high</source>
@@ -10861,19 +10861,19 @@
     </message>
     <message>
         <source>just disappear the prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>仅消失时提示</translation>
     </message>
     <message>
         <source>light + sound</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光+声音</translation>
     </message>
     <message>
         <source>light only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅灯光</translation>
     </message>
     <message>
         <source>manual</source>
-        <translation type="unfinished"></translation>
+        <translation>手动</translation>
     </message>
     <message>
         <source>middle</source>
@@ -10881,35 +10881,35 @@
     </message>
     <message>
         <source>portable</source>
-        <translation type="unfinished"></translation>
+        <translation>便携式</translation>
     </message>
     <message>
         <source>restore vehicle settings</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复车辆设置</translation>
     </message>
     <message>
         <source>sound</source>
-        <translation type="unfinished"></translation>
+        <translation>声音</translation>
     </message>
     <message>
         <source>sound + vibration</source>
-        <translation type="unfinished"></translation>
+        <translation>声音+振动</translation>
     </message>
     <message>
         <source>sound 1</source>
-        <translation type="unfinished"></translation>
+        <translation>声音1</translation>
     </message>
     <message>
         <source>sound 2</source>
-        <translation type="unfinished"></translation>
+        <translation>声音2</translation>
     </message>
     <message>
         <source>sound 3</source>
-        <translation type="unfinished"></translation>
+        <translation>声音3</translation>
     </message>
     <message>
         <source>sound only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅声音</translation>
     </message>
     <message>
         <source>standard</source>
@@ -10917,7 +10917,7 @@
     </message>
     <message>
         <source>vibrate</source>
-        <translation type="unfinished"></translation>
+        <translation>振动</translation>
     </message>
 </context>
 <context>
@@ -10932,35 +10932,35 @@
     </message>
     <message>
         <source>Front left tire warning-Sensor battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-传感器电量低</translation>
     </message>
     <message>
         <source>Front left tire warning-fast leak</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-快速漏气</translation>
     </message>
     <message>
         <source>Front left tire warning-high pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-高压警告</translation>
     </message>
     <message>
         <source>Front left tire warning-low pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-低压警告</translation>
     </message>
     <message>
         <source>Front left tire warning-sensor failure</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-传感器故障</translation>
     </message>
     <message>
         <source>Front left tire warning-sensor missing</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-传感器丢失</translation>
     </message>
     <message>
         <source>Front left tire warning-system error</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-系统错误</translation>
     </message>
     <message>
         <source>Front left tire warning-temperature alert</source>
-        <translation type="unfinished"></translation>
+        <translation>左前轮胎警告-温度警告</translation>
     </message>
     <message>
         <source>Front right tire temperature</source>
@@ -10968,35 +10968,35 @@
     </message>
     <message>
         <source>Front right tire warning-fast leak</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-快速漏气</translation>
     </message>
     <message>
         <source>Front right tire warning-high pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-高压警告</translation>
     </message>
     <message>
         <source>Front right tire warning-low pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-低压警告</translation>
     </message>
     <message>
         <source>Front right tire warning-sensor batteryLow</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-传感器电量低</translation>
     </message>
     <message>
         <source>Front right tire warning-sensor failure</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-传感器故障</translation>
     </message>
     <message>
         <source>Front right tire warning-sensor missing</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-传感器丢失</translation>
     </message>
     <message>
         <source>Front right tire warning-system Error</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-系统错误</translation>
     </message>
     <message>
         <source>Front right tire warning-temperature alert</source>
-        <translation type="unfinished"></translation>
+        <translation>右前轮胎警告-温度警告</translation>
     </message>
     <message>
         <source>Left front tire pressure value</source>
@@ -11012,35 +11012,35 @@
     </message>
     <message>
         <source>Rear left tire warning-Sensor battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-传感器电量低</translation>
     </message>
     <message>
         <source>Rear left tire warning-fast leak</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-快速漏气</translation>
     </message>
     <message>
         <source>Rear left tire warning-high pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-高压警告</translation>
     </message>
     <message>
         <source>Rear left tire warning-low pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-低压警告</translation>
     </message>
     <message>
         <source>Rear left tire warning-sensor failure</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-传感器故障</translation>
     </message>
     <message>
         <source>Rear left tire warning-sensor missing</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-传感器丢失</translation>
     </message>
     <message>
         <source>Rear left tire warning-system error</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-系统错误</translation>
     </message>
     <message>
         <source>Rear left tire warning-temperature alert</source>
-        <translation type="unfinished"></translation>
+        <translation>左后轮胎警告-温度警告</translation>
     </message>
     <message>
         <source>Rear right tire temperature</source>
@@ -11048,35 +11048,35 @@
     </message>
     <message>
         <source>Rear right tire warning-Sensor battery low</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-传感器电量低</translation>
     </message>
     <message>
         <source>Rear right tire warning-fast leak</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-快速漏气</translation>
     </message>
     <message>
         <source>Rear right tire warning-high pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-高压警告</translation>
     </message>
     <message>
         <source>Rear right tire warning-low pressure warning</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-低压警告</translation>
     </message>
     <message>
         <source>Rear right tire warning-sensor failure</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-传感器故障</translation>
     </message>
     <message>
         <source>Rear right tire warning-sensor missing</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-传感器丢失</translation>
     </message>
     <message>
         <source>Rear right tire warning-system error</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-系统错误</translation>
     </message>
     <message>
         <source>Rear right tire warning-temperature alert</source>
-        <translation type="unfinished"></translation>
+        <translation>右后轮胎警告-温度警告</translation>
     </message>
     <message>
         <source>Right front tire pressure value</source>
@@ -11088,7 +11088,7 @@
     </message>
     <message>
         <source>Tire pressure reset settings</source>
-        <translation type="unfinished"></translation>
+        <translation>胎压复位设置</translation>
     </message>
     <message>
         <source>have</source>
@@ -11318,75 +11318,75 @@
     <name>CarInfoItem64_7</name>
     <message>
         <source>17 Changan CX70</source>
-        <translation type="unfinished"></translation>
+        <translation>17款长安CX70</translation>
     </message>
     <message>
         <source>18 Changan Auchan A600/20 Changan Auchan Changxing</source>
-        <translation type="unfinished"></translation>
+        <translation>18款长安欧尚A600/20款长安欧尚长行</translation>
     </message>
     <message>
         <source>18 Changan Auchan Kesai/21 Changan Auchan Kesai Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>18款长安欧尚科赛/21款长安欧尚科赛Pro</translation>
     </message>
     <message>
         <source>18 Changan CS75/20 Changan CS75</source>
-        <translation type="unfinished"></translation>
+        <translation>18款长安CS75/20款长安CS75</translation>
     </message>
     <message>
         <source>18 Changan Lingxuan</source>
-        <translation type="unfinished"></translation>
+        <translation>18款长安凌轩</translation>
     </message>
     <message>
         <source>18 Changan Yidong DT</source>
-        <translation type="unfinished"></translation>
+        <translation>18款长安逸动DT</translation>
     </message>
     <message>
         <source>19 Changan Auchan Still</source>
-        <translation type="unfinished"></translation>
+        <translation>19款长安欧尚Still</translation>
     </message>
     <message>
         <source>19 Changan CS15</source>
-        <translation type="unfinished"></translation>
+        <translation>19款长安CS15</translation>
     </message>
     <message>
         <source>19 Changan CS35 PLUS</source>
-        <translation type="unfinished"></translation>
+        <translation>19款长安CS35 PLUS</translation>
     </message>
     <message>
         <source>19 Changan Yidong</source>
-        <translation type="unfinished"></translation>
+        <translation>19款长安逸动</translation>
     </message>
     <message>
         <source>19 Changan Yuexiang</source>
-        <translation type="unfinished"></translation>
+        <translation>19款长安悦翔</translation>
     </message>
     <message>
         <source>19 models of Changan Yuexiang low-end</source>
-        <translation type="unfinished"></translation>
+        <translation>19款长安悦翔低配</translation>
     </message>
     <message>
         <source>20 Changan Auchan X7</source>
-        <translation type="unfinished"></translation>
+        <translation>20款长安欧尚X7</translation>
     </message>
     <message>
         <source>21 models of Changan CS15 E-Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>21款长安CS15 E-Pro</translation>
     </message>
     <message>
         <source>Backlight level information</source>
-        <translation type="unfinished"></translation>
+        <translation>背光等级信息</translation>
     </message>
     <message>
         <source>Changan Auchan X70A</source>
-        <translation type="unfinished"></translation>
+        <translation>长安欧尚X70A</translation>
     </message>
     <message>
         <source>Highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>高亮</translation>
     </message>
     <message>
         <source>Inclined parking UI highlighted</source>
-        <translation type="unfinished"></translation>
+        <translation>斜列车位界面高亮</translation>
     </message>
     <message>
         <source>Model selection</source>
@@ -11394,27 +11394,27 @@
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>无</translation>
     </message>
     <message>
         <source>Parallel parking UI highlighted</source>
-        <translation type="unfinished"></translation>
+        <translation>平行车位界面高亮</translation>
     </message>
     <message>
         <source>Parking out UI highlighted</source>
-        <translation type="unfinished"></translation>
+        <translation>泊出界面高亮</translation>
     </message>
     <message>
         <source>Remaining maintenance mileage</source>
-        <translation type="unfinished"></translation>
+        <translation>剩余保养里程</translation>
     </message>
     <message>
         <source>UI interface</source>
-        <translation type="unfinished"></translation>
+        <translation>UI界面</translation>
     </message>
     <message>
         <source>Vertical parking UI highlighted</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直车位界面高亮</translation>
     </message>
     <message>
         <source>null</source>
@@ -11422,54 +11422,54 @@
     </message>
     <message>
         <source>skylight</source>
-        <translation type="unfinished"></translation>
+        <translation>天窗</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem64_8</name>
     <message>
         <source>Back video</source>
-        <translation type="unfinished"></translation>
+        <translation>后视频</translation>
     </message>
     <message>
         <source>Back video 120° view</source>
-        <translation type="unfinished"></translation>
+        <translation>后视频120°视角</translation>
     </message>
     <message>
         <source>Back video 180° view</source>
-        <translation type="unfinished"></translation>
+        <translation>后视频180°视角</translation>
     </message>
     <message>
         <source>Disable auxiliary line</source>
-        <translation type="unfinished"></translation>
+        <translation>禁用辅助线</translation>
     </message>
     <message>
         <source>Front video</source>
-        <translation type="unfinished"></translation>
+        <translation>前视频</translation>
     </message>
     <message>
         <source>Front video 120° view</source>
-        <translation type="unfinished"></translation>
+        <translation>前视频120°视角</translation>
     </message>
     <message>
         <source>Front video 180° view</source>
-        <translation type="unfinished"></translation>
+        <translation>前视频180°视角</translation>
     </message>
     <message>
         <source>Invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>无效</translation>
     </message>
     <message>
         <source>Left and right video</source>
-        <translation type="unfinished"></translation>
+        <translation>左右视频</translation>
     </message>
     <message>
         <source>Left video</source>
-        <translation type="unfinished"></translation>
+        <translation>左视频</translation>
     </message>
     <message>
         <source>Normal mode</source>
-        <translation type="unfinished"></translation>
+        <translation>正常模式</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -11481,19 +11481,19 @@
     </message>
     <message>
         <source>Panoramic Video</source>
-        <translation type="unfinished"></translation>
+        <translation>全景视频</translation>
     </message>
     <message>
         <source>Parallel mode</source>
-        <translation type="unfinished"></translation>
+        <translation>平行模式</translation>
     </message>
     <message>
         <source>Parking track mode</source>
-        <translation type="unfinished"></translation>
+        <translation>泊车轨迹模式</translation>
     </message>
     <message>
         <source>Right video</source>
-        <translation type="unfinished"></translation>
+        <translation>右视频</translation>
     </message>
     <message>
         <source>null</source>
@@ -11501,11 +11501,11 @@
     </message>
     <message>
         <source>right Video</source>
-        <translation type="unfinished"></translation>
+        <translation>右视频</translation>
     </message>
     <message>
         <source>video Status</source>
-        <translation type="unfinished"></translation>
+        <translation>视频状态</translation>
     </message>
 </context>
 <context>
@@ -18208,31 +18208,31 @@
     </message>
     <message>
         <source>Crimson</source>
-        <translation type="unfinished"></translation>
+        <translation>深红色</translation>
     </message>
     <message>
         <source>Crystal Rhythm</source>
-        <translation type="unfinished"></translation>
+        <translation>水晶律动</translation>
     </message>
     <message>
         <source>Deerskin Brown</source>
-        <translation type="unfinished"></translation>
+        <translation>鹿皮棕</translation>
     </message>
     <message>
         <source>Disable</source>
-        <translation type="unfinished"></translation>
+        <translation>禁用</translation>
     </message>
     <message>
         <source>Disable auto folding mirrors</source>
-        <translation type="unfinished"></translation>
+        <translation>禁用后视镜自动折叠</translation>
     </message>
     <message>
         <source>Disable when reversing</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车时禁用</translation>
     </message>
     <message>
         <source>Door self locking status</source>
-        <translation type="unfinished"></translation>
+        <translation>车门自锁状态</translation>
     </message>
     <message>
         <source>Driver&apos;s door only</source>
@@ -18240,19 +18240,19 @@
     </message>
     <message>
         <source>Driving assist brake</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶辅助制动</translation>
     </message>
     <message>
         <source>Electric trunkLid</source>
-        <translation type="unfinished"></translation>
+        <translation>电动后备箱盖</translation>
     </message>
     <message>
         <source>Enable when reversing</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车时启用</translation>
     </message>
     <message>
         <source>Engine start stop function is deactivated</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机启停功能已停用</translation>
     </message>
     <message>
         <source>English</source>
@@ -18260,7 +18260,7 @@
     </message>
     <message>
         <source>Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>华氏度</translation>
     </message>
     <message>
         <source>Far</source>
@@ -18268,11 +18268,11 @@
     </message>
     <message>
         <source>Fatigue detection system</source>
-        <translation type="unfinished"></translation>
+        <translation>疲劳检测系统</translation>
     </message>
     <message>
         <source>Follow up turn headlights</source>
-        <translation type="unfinished"></translation>
+        <translation>随动转向大灯</translation>
     </message>
     <message>
         <source>French</source>
@@ -18280,23 +18280,23 @@
     </message>
     <message>
         <source>Fuel consumption unit setting</source>
-        <translation type="unfinished"></translation>
+        <translation>油耗单位设置</translation>
     </message>
     <message>
         <source>Jade green</source>
-        <translation type="unfinished"></translation>
+        <translation>翡翠绿</translation>
     </message>
     <message>
         <source>Jungle Dream</source>
-        <translation type="unfinished"></translation>
+        <translation>丛林之梦</translation>
     </message>
     <message>
         <source>KM/L-KM</source>
-        <translation type="unfinished"></translation>
+        <translation>KM/L-KM</translation>
     </message>
     <message>
         <source>L/100KM-KM</source>
-        <translation type="unfinished"></translation>
+        <translation>L/100KM-KM</translation>
     </message>
     <message>
         <source>MPG</source>
@@ -18304,7 +18304,7 @@
     </message>
     <message>
         <source>Near</source>
-        <translation type="unfinished"></translation>
+        <translation>近</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -18320,11 +18320,11 @@
     </message>
     <message>
         <source>P file</source>
-        <translation type="unfinished"></translation>
+        <translation>P挡</translation>
     </message>
     <message>
         <source>PGear or handbrake</source>
-        <translation type="unfinished"></translation>
+        <translation>P挡或手刹</translation>
     </message>
     <message>
         <source>Page0</source>
@@ -18340,11 +18340,11 @@
     </message>
     <message>
         <source>Rear view mirror adaptive</source>
-        <translation type="unfinished"></translation>
+        <translation>后视镜自适应</translation>
     </message>
     <message>
         <source>Reversing radar deactivated</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车雷达已停用</translation>
     </message>
     <message>
         <source>Reversing state</source>
@@ -18352,15 +18352,15 @@
     </message>
     <message>
         <source>Sky Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>天蓝色</translation>
     </message>
     <message>
         <source>Sound settings</source>
-        <translation type="unfinished"></translation>
+        <translation>声音设置</translation>
     </message>
     <message>
         <source>Speed limit reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>限速提醒</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -18368,11 +18368,11 @@
     </message>
     <message>
         <source>Take me home lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>伴我回家照明</translation>
     </message>
     <message>
         <source>The trunk opens automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>后备箱自动打开</translation>
     </message>
     <message>
         <source>Traction control system</source>
@@ -18380,7 +18380,7 @@
     </message>
     <message>
         <source>Traffic sign recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>交通标志识别</translation>
     </message>
     <message>
         <source>Trip computer currently displayed page</source>
@@ -18388,43 +18388,43 @@
     </message>
     <message>
         <source>Unlock the trunk only</source>
-        <translation type="unfinished"></translation>
+        <translation>仅解锁后备箱</translation>
     </message>
     <message>
         <source>Welcome function</source>
-        <translation type="unfinished"></translation>
+        <translation>迎宾功能</translation>
     </message>
     <message>
         <source>Welcome lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>迎宾照明</translation>
     </message>
     <message>
         <source>agate red</source>
-        <translation type="unfinished"></translation>
+        <translation>玛瑙红</translation>
     </message>
     <message>
         <source>classic sound</source>
-        <translation type="unfinished"></translation>
+        <translation>经典音效</translation>
     </message>
     <message>
         <source>day lighting</source>
-        <translation type="unfinished"></translation>
+        <translation>日间照明</translation>
     </message>
     <message>
         <source>door opening options</source>
-        <translation type="unfinished"></translation>
+        <translation>开门选项</translation>
     </message>
     <message>
         <source>driver assistance system</source>
-        <translation type="unfinished"></translation>
+        <translation>驾驶辅助系统</translation>
     </message>
     <message>
         <source>emergency braking</source>
-        <translation type="unfinished"></translation>
+        <translation>紧急制动</translation>
     </message>
     <message>
         <source>enable</source>
-        <translation type="unfinished"></translation>
+        <translation>启用</translation>
     </message>
     <message>
         <source>language</source>
@@ -18432,39 +18432,39 @@
     </message>
     <message>
         <source>light status</source>
-        <translation type="unfinished"></translation>
+        <translation>灯光状态</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation type="unfinished"></translation>
+        <translation>已锁止</translation>
     </message>
     <message>
         <source>mood lighting status</source>
-        <translation type="unfinished"></translation>
+        <translation>氛围灯状态</translation>
     </message>
     <message>
         <source>non-P file</source>
-        <translation type="unfinished"></translation>
+        <translation>非P挡</translation>
     </message>
     <message>
         <source>non-reversing</source>
-        <translation type="unfinished"></translation>
+        <translation>非倒车</translation>
     </message>
     <message>
         <source>rear wiper</source>
-        <translation type="unfinished"></translation>
+        <translation>后雨刮</translation>
     </message>
     <message>
         <source>reverse</source>
-        <translation type="unfinished"></translation>
+        <translation>倒车</translation>
     </message>
     <message>
         <source>sapphire blue</source>
-        <translation type="unfinished"></translation>
+        <translation>蓝宝石蓝</translation>
     </message>
     <message>
         <source>temperature unit</source>
-        <translation type="unfinished"></translation>
+        <translation>温度单位</translation>
     </message>
     <message>
         <source>theme color</source>
@@ -18472,54 +18472,54 @@
     </message>
     <message>
         <source>unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>已解锁</translation>
     </message>
     <message>
         <source>urban rhythm</source>
-        <translation type="unfinished"></translation>
+        <translation>都市律动</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem87_6</name>
     <message>
         <source>speed 1 state</source>
-        <translation type="unfinished"></translation>
+        <translation>车速1状态</translation>
     </message>
     <message>
         <source>speed 2 state</source>
-        <translation type="unfinished"></translation>
+        <translation>车速2状态</translation>
     </message>
     <message>
         <source>speed 3 state</source>
-        <translation type="unfinished"></translation>
+        <translation>车速3状态</translation>
     </message>
     <message>
         <source>speed 4 state</source>
-        <translation type="unfinished"></translation>
+        <translation>车速4状态</translation>
     </message>
     <message>
         <source>speed 5 state</source>
-        <translation type="unfinished"></translation>
+        <translation>车速5状态</translation>
     </message>
     <message>
         <source>speed 1</source>
-        <translation type="unfinished"></translation>
+        <translation>车速1</translation>
     </message>
     <message>
         <source>speed 2</source>
-        <translation type="unfinished"></translation>
+        <translation>车速2</translation>
     </message>
     <message>
         <source>speed 3</source>
-        <translation type="unfinished"></translation>
+        <translation>车速3</translation>
     </message>
     <message>
         <source>speed 4</source>
-        <translation type="unfinished"></translation>
+        <translation>车速4</translation>
     </message>
     <message>
         <source>speed 5</source>
-        <translation type="unfinished"></translation>
+        <translation>车速5</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -18535,62 +18535,62 @@
     </message>
     <message>
         <source>choose</source>
-        <translation type="unfinished"></translation>
+        <translation>选择</translation>
     </message>
     <message>
         <source>memory speed</source>
-        <translation type="unfinished"></translation>
+        <translation>记忆车速</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem87_7</name>
     <message>
         <source>Cruising speed 1</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速1</translation>
     </message>
     <message>
         <source>Cruising speed 2</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速2</translation>
     </message>
     <message>
         <source>Cruising speed 3</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速3</translation>
     </message>
     <message>
         <source>Cruising speed 4</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速4</translation>
     </message>
     <message>
         <source>Cruising speed 5</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速5</translation>
     </message>
     <message>
         <source>Cruising speed 6</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速6</translation>
     </message>
     <message>
         <source>Speed limit 1</source>
-        <translation type="unfinished"></translation>
+        <translation>限速1</translation>
     </message>
     <message>
         <source>Speed limit 2</source>
-        <translation type="unfinished"></translation>
+        <translation>限速2</translation>
     </message>
     <message>
         <source>Speed limit 3</source>
-        <translation type="unfinished"></translation>
+        <translation>限速3</translation>
     </message>
     <message>
         <source>Speed limit 4</source>
-        <translation type="unfinished"></translation>
+        <translation>限速4</translation>
     </message>
     <message>
         <source>Speed limit 5</source>
-        <translation type="unfinished"></translation>
+        <translation>限速5</translation>
     </message>
     <message>
         <source>Speed limit 6</source>
-        <translation type="unfinished"></translation>
+        <translation>限速6</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -18598,7 +18598,7 @@
     </message>
     <message>
         <source>cruise speed popup</source>
-        <translation type="unfinished"></translation>
+        <translation>巡航车速弹窗</translation>
     </message>
     <message>
         <source>pop up</source>
@@ -18606,30 +18606,30 @@
     </message>
     <message>
         <source>speed limit popup</source>
-        <translation type="unfinished"></translation>
+        <translation>限速弹窗</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem87_8</name>
     <message>
         <source>Anti collision</source>
-        <translation type="unfinished"></translation>
+        <translation>防碰撞</translation>
     </message>
     <message>
         <source>Anti collision,front horn sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>防碰撞，前喇叭鸣响</translation>
     </message>
     <message>
         <source>Decoding end parallel anti collision sound</source>
-        <translation type="unfinished"></translation>
+        <translation>解码盒并线防碰撞提示音</translation>
     </message>
     <message>
         <source>Far and near lLight intelligent auxiliary system</source>
-        <translation type="unfinished"></translation>
+        <translation>远近光智能辅助系统</translation>
     </message>
     <message>
         <source>Left superLine,left front horn beeps</source>
-        <translation type="unfinished"></translation>
+        <translation>左侧越线，左前喇叭鸣响</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -18641,22 +18641,22 @@
     </message>
     <message>
         <source>Parallel auxiliary</source>
-        <translation type="unfinished"></translation>
+        <translation>并线辅助</translation>
     </message>
     <message>
         <source>Right super line,right front horn beeps</source>
-        <translation type="unfinished"></translation>
+        <translation>右侧越线，右前喇叭鸣响</translation>
     </message>
     <message>
         <source>keyless entry system</source>
-        <translation type="unfinished"></translation>
+        <translation>无钥匙进入系统</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem87_9</name>
     <message>
         <source>4WD</source>
-        <translation type="unfinished"></translation>
+        <translation>4WD</translation>
     </message>
     <message>
         <source>Bright</source>
@@ -18672,11 +18672,11 @@
     </message>
     <message>
         <source>Electric</source>
-        <translation type="unfinished"></translation>
+        <translation>电动</translation>
     </message>
     <message>
         <source>Front wheel brake energy recovery</source>
-        <translation type="unfinished"></translation>
+        <translation>前轮制动能量回收</translation>
     </message>
     <message>
         <source>Hybrid</source>
@@ -18684,19 +18684,19 @@
     </message>
     <message>
         <source>Mud</source>
-        <translation type="unfinished"></translation>
+        <translation>泥地</translation>
     </message>
     <message>
         <source>Rear brake energy recovery</source>
-        <translation type="unfinished"></translation>
+        <translation>后轮制动能量回收</translation>
     </message>
     <message>
         <source>Sand</source>
-        <translation type="unfinished"></translation>
+        <translation>沙地</translation>
     </message>
     <message>
         <source>Snow</source>
-        <translation type="unfinished"></translation>
+        <translation>雪地</translation>
     </message>
     <message>
         <source>Sport</source>
@@ -18708,15 +18708,15 @@
     </message>
     <message>
         <source>The engine charges the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机给电池充电</translation>
     </message>
     <message>
         <source>battery driven front wheels</source>
-        <translation type="unfinished"></translation>
+        <translation>电池驱动前轮</translation>
     </message>
     <message>
         <source>battery driven rear wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>电池驱动后轮</translation>
     </message>
     <message>
         <source>engine</source>
@@ -18724,23 +18724,23 @@
     </message>
     <message>
         <source>engine driven front wheels</source>
-        <translation type="unfinished"></translation>
+        <translation>发动机驱动前轮</translation>
     </message>
     <message>
         <source>model</source>
-        <translation type="unfinished"></translation>
+        <translation>车型</translation>
     </message>
     <message>
         <source>scroll</source>
-        <translation type="unfinished"></translation>
+        <translation>滚动</translation>
     </message>
     <message>
         <source>still</source>
-        <translation type="unfinished"></translation>
+        <translation>静止</translation>
     </message>
     <message>
         <source>tire rolling</source>
-        <translation type="unfinished"></translation>
+        <translation>轮胎滚动</translation>
     </message>
 </context>
 <context>
@@ -19677,15 +19677,15 @@
     <name>CardoorDialog27</name>
     <message>
         <source>Seatbelt not fastened</source>
-        <translation type="unfinished"></translation>
+        <translation>安全带未系</translation>
     </message>
     <message>
         <source>Auto Parking Abnormal</source>
-        <translation type="unfinished"></translation>
+        <translation>自动泊车异常</translation>
     </message>
     <message>
         <source>Abnormal condensate</source>
-        <translation type="unfinished"></translation>
+        <translation>冷凝液异常</translation>
     </message>
 </context>
 <context>
