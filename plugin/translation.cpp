@@ -5,11 +5,14 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QPointer>
 #include <QTranslator>
 
 void followLocale()
 {
-    static QTranslator *translator = 0;
+    // Owned by the application, so that it lives as long as the texts it
+    // translates.
+    static QPointer<QTranslator> translator;
     static QString loadedLocale;
     const QLocale locale;
     if (translator && locale.name() == loadedLocale)
