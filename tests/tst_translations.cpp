@@ -169,6 +169,27 @@ QStringList clippedTexts()
     return clipped;
 }
 
+// A language's translator that notes every text of the plug-in asked of it
+// that it has no translation for.
+class CoverageTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *sourceText, const char *disambiguation,
+                      int n) const override
+    {
+        const QString text = QTranslator::translate(context, sourceText, disambiguation, n);
+        // Qt's own classes translate in their own names, and the desktop
+        // host's screen stands for the head unit's, which isn't ours.
+        if (text.isEmpty() && context && context[0] != 'Q' && qstrcmp(context, "HostScreen") != 0 && sourceText
+            && *sourceText)
+            missing.insert(QString::fromUtf8(context) + QStringLiteral(" \"") + QString::fromUtf8(sourceText)
+                           + QLatin1Char('"'));
+        return text;
+    }
+
+    mutable QSet<QString> missing;
+};
+
 QStringList tsFiles()
 {
     QStringList files;
@@ -220,7 +241,8 @@ private slots:
             qInfo("  %s", qPrintable(line));
     }
 
-    // Every translated title and text option fits its room.
+    // Every text that the pages translate has its translation, and every
+    // translated title and text option fits its room.
     void translationsFit_data()
     {
         QTest::addColumn<QString>("language");
@@ -232,12 +254,16 @@ private slots:
     void translationsFit()
     {
         QFETCH(QString, language);
-        QTranslator translator;
+        CoverageTranslator translator;
         QVERIFY(translator.load(QStringLiteral("carcontrol_") + language,
                                 qEnvironmentVariable("CARCONTROL_RESOURCE_ROOT") + QStringLiteral("/translations")));
         QCoreApplication::installTranslator(&translator);
         const QStringList clipped = clippedTexts();
         QCoreApplication::removeTranslator(&translator);
+        QStringList missing = translator.missing.values();
+        missing.sort();
+        QVERIFY2(missing.isEmpty(), qPrintable(QStringLiteral("%1 texts untranslated (make translations, then translate):\n")
+                                               .arg(missing.size()) + missing.join(QLatin1Char('\n'))));
         QVERIFY2(clipped.isEmpty(), qPrintable(QStringLiteral("%1 texts clipped:\n").arg(clipped.size())
                                                + clipped.join(QLatin1Char('\n'))));
     }
