@@ -4305,7 +4305,7 @@
     <name>CarInfoItem28_5</name>
     <message>
         <source>Energy recovery value at</source>
-        <translation>能量回收值</translation>
+        <translation>能量回收值：第</translation>
     </message>
     <message>
         <source> %1 </source>
