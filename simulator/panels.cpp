@@ -106,7 +106,8 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     m_languages->setToolTip(tr("Takes effect on the next opening of a view"));
     m_languages->addItem(tr("Source texts"), QStringLiteral("C"));
     const QDir translations(QString::fromLocal8Bit(qgetenv("CARCONTROL_RESOURCE_ROOT")) + QStringLiteral("/translations"));
-    for (QString const &file : translations.entryList({QStringLiteral("carcontrol_*.qm")}, QDir::Files, QDir::Name)) {
+    const QStringList files = translations.entryList({QStringLiteral("carcontrol_*.qm")}, QDir::Files, QDir::Name);
+    for (QString const &file : files) {
         const QString name = file.mid(int(qstrlen("carcontrol_"))).chopped(3);
         m_languages->addItem(QStringLiteral("%1 (%2)").arg(QLocale(name).nativeLanguageName(), name), name);
     }

@@ -130,7 +130,8 @@ QStringList clippedTexts()
             clipped << line;
         }
     };
-    for (int id : Catalogue::protocolIds()) {
+    const QList<int> ids = Catalogue::protocolIds();
+    for (int id : ids) {
         HostSim::reset();
         HostSim::setProtocolId(id);
         QWidget window;
@@ -157,7 +158,8 @@ QStringList clippedTexts()
                 const QString title = index.data(TitleRole).toString();
                 if (!fits(room.titleFont, room.title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, title))
                     note(name, title);
-                for (QVariant const &option : index.data(OptionsRole).toList()) {
+                const QVariantList options = index.data(OptionsRole).toList();
+                for (QVariant const &option : options) {
                     if (option.type() == QVariant::String
                         && !fits(room.valueFont, room.value, room.valueFlags, option.toString()))
                         note(name, option.toString());
@@ -193,8 +195,9 @@ public:
 QStringList tsFiles()
 {
     QStringList files;
-    for (QString const &name : QDir(QStringLiteral(TRANSLATIONS_SOURCE_DIR))
-                                   .entryList({QStringLiteral("carcontrol_*.ts")}, QDir::Files, QDir::Name))
+    const QStringList names = QDir(QStringLiteral(TRANSLATIONS_SOURCE_DIR))
+                                  .entryList({QStringLiteral("carcontrol_*.ts")}, QDir::Files, QDir::Name);
+    for (QString const &name : names)
         files << QStringLiteral(TRANSLATIONS_SOURCE_DIR "/") + name;
     return files;
 }
@@ -246,7 +249,8 @@ private slots:
     void translationsFit_data()
     {
         QTest::addColumn<QString>("language");
-        for (QString const &path : tsFiles()) {
+        const QStringList files = tsFiles();
+        for (QString const &path : files) {
             const QString language = QFileInfo(path).completeBaseName().mid(int(qstrlen("carcontrol_")));
             QTest::newRow(qPrintable(language)) << language;
         }

@@ -48,7 +48,8 @@ private:
 void noteTable(Texts *texts, RowPage const *page)
 {
     const QByteArray context = page->metaObject()->className();
-    for (Row const &row : page->currentRowTable()) {
+    const QList<Row> table = page->currentRowTable();
+    for (Row const &row : table) {
         if (row.title() && *row.title())
             (*texts)[context].insert(row.title());
         for (QVariant const &option : row.options()) {
@@ -82,7 +83,8 @@ QByteArray source()
     Texts texts;
     Recorder recorder(&texts);
     QCoreApplication::installTranslator(&recorder);
-    for (int id : Catalogue::protocolIds()) {
+    const QList<int> ids = Catalogue::protocolIds();
+    for (int id : ids) {
         HostSim::reset();
         HostSim::setProtocolId(id);
         std::unique_ptr<CarExViewBase> stack(createPageStack(id, nullptr));
