@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -49,6 +50,8 @@ char const Usage[] =
     "  --catalogue FILE    the decoder box's catalogue (default: the build's,\n"
     "                      or $CARCONTROL_CATALOGUE_FILE)\n"
     "  --protocol N        start the window on protocol N (default 28)\n"
+    "  --language LOCALE   the head unit's locale, e.g. zh_CN: the plug-in shows\n"
+    "                      its texts in that language where it has them\n"
     "  --plugin FILE       the car control plug-in (default:\n"
     "                      $CARCONTROL_PLUGIN_DIR/libcarcontrol.so)\n"
     "  --reverse-plugin FILE  the reverse plug-in (default: libreversesample.so\n"
@@ -69,6 +72,7 @@ struct Options
     QString plugin;
     QString reversePlugin;
     QString platform;
+    QString language;
     int protocol = Demo::ProtocolId;
     bool window = false;
     bool verbose = false;
@@ -117,6 +121,14 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
         } else if (arg == QLatin1String("--platform") || arg == QLatin1String("-platform")) {
             if (!value(&options->platform))
                 return false;
+        } else if (arg == QLatin1String("--language")) {
+            if (!value(&options->language))
+                return false;
+            const QLocale locale(options->language);
+            if (locale.language() == QLocale::C && options->language != QLatin1String("C")) {
+                *error = QStringLiteral("--language %1 is not a locale").arg(options->language);
+                return false;
+            }
         } else if (arg == QLatin1String("--protocol")) {
             QString text;
             bool ok = false;
@@ -232,6 +244,10 @@ int main(int argc, char *argv[])
 
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("headunit-sim"));
+    // The head unit's locale, before the plug-in's root (which loads its
+    // translation) is made.
+    if (!options.language.isEmpty())
+        QLocale::setDefault(QLocale(options.language));
     DebugLog::capture(options.verbose || !headless);
 
     // Headless runs keep the head unit's settings to themselves, so that

@@ -67,6 +67,7 @@ private slots:
     void screenButtonsAndKeys();
     void carPanels();
     void bufferEditorAndFrameLog();
+    void languagePicker();
 
 private:
     QWidget *screenPart(QString const &name) const { return m_host->probe().part(name); }
@@ -291,6 +292,46 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
         QTest::keyClick(line, Qt::Key_Return);
     }
     QCOMPARE(lastRow(frames).mid(1), (QStringList{"FD 06 90 7E 00 01 14", "FD", "90"}));
+}
+
+// The Car panel's language: the source texts and every language that the
+// plug-in has a translation for. A pick takes effect when a view opens next.
+void TestSimulatorWindow::languagePicker()
+{
+    auto *picker = m_window->findChild<QComboBox *>("languagePicker");
+    QVERIFY(picker);
+    QCOMPARE(picker->count(), 2);
+    QCOMPARE(picker->itemData(0).toString(), QString("C"));
+    QCOMPARE(picker->itemData(1).toString(), QString("zh_CN"));
+    auto secondTitle = [this] {
+        return m_host->probe().titleList()->model()->index(1, 0).data(Qt::DisplayRole).toString();
+    };
+    for (int i = 0; i < 3 && m_host->probe().findObject("exView"); ++i)
+        click(withText<QPushButton>(m_window, "Back"));
+    HostSim::setProtocolId(28);
+    m_host->call(QStringLiteral("setProtocolId"), {28});
+    EventPump::settle();
+
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QCOMPARE(secondTitle(), QString("Amplifier status"));
+    picker->setFocus();
+    QTest::keyClick(picker, Qt::Key_Down);
+    QCOMPARE(picker->currentData().toString(), QString("zh_CN"));
+    // The view that stands keeps its texts; the next one is in Chinese.
+    QCOMPARE(secondTitle(), QString("Amplifier status"));
+    click(withText<QPushButton>(m_window, "Back"));
+    QVERIFY(!m_host->probe().findObject("exView"));
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QCOMPARE(secondTitle(), QString::fromUtf8("功放状态"));
+
+    // And back to the source texts.
+    click(withText<QPushButton>(m_window, "Back"));
+    picker->setFocus();
+    QTest::keyClick(picker, Qt::Key_Up);
+    QCOMPARE(picker->currentData().toString(), QString("C"));
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QCOMPARE(secondTitle(), QString("Amplifier status"));
+    click(withText<QPushButton>(m_window, "Back"));
 }
 
 QTEST_MAIN(TestSimulatorWindow)
