@@ -7,7 +7,11 @@
 # with Debian's cross compiler and the armhf Qt unpacked into a sysroot that
 # is made once and kept, warnings as errors, and runs the unit tests under
 # qemu-arm. The simulator and the benchmarks are desktop-only.
-# `make check` runs the three, one after the other, as CI does.
+# `make lint` runs clazy, Qt's static analysis, over the plug-in's code;
+# `make api-guard` looks for Qt API from after Qt 5.3 there (the suite runs it
+# too, as the test qt53_api_guard).
+# `make check` runs the three and the lint, one after the other, as CI does.
+# `make translations` brings translations/*.ts up to date with the code.
 # `make package` makes the bench's Debian package from the desktop build into
 # build/packages; `make package-armhf` the head unit's from the armhf build
 # into build-armhf/packages.
@@ -26,7 +30,7 @@ SANITIZER_ENV = ASAN_OPTIONS=detect_leaks=1:halt_on_error=1:detect_stack_use_aft
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp:print_suppressions=0
 
-.PHONY: all setup configure build test test-sanitize test-armhf check demo clean package package-armhf
+.PHONY: all setup configure build test test-sanitize test-armhf lint api-guard check demo clean package package-armhf translations
 
 all: build
 
@@ -56,8 +60,16 @@ test-armhf:
 	@cmake --build $(ARMHF_DIR) -j $(JOBS)
 	@cd $(ARMHF_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 
+lint: build
+	@sh tools/setup.sh lint
+	@sh tools/lint.sh $(BUILD_DIR) $(JOBS)
+
+api-guard:
+	@python3 tools/qtapiguard.py plugin records host dialogView exView pages reverse
+
 check:
 	@$(MAKE) --no-print-directory test
+	@$(MAKE) --no-print-directory lint
 	@$(MAKE) --no-print-directory test-sanitize
 	@$(MAKE) --no-print-directory test-armhf
 
@@ -69,6 +81,11 @@ package-armhf:
 		echo "make package-armhf: no armhf build in $(ARMHF_DIR); run 'make test-armhf' first" >&2; exit 1; fi
 	@cmake --build $(ARMHF_DIR) -j $(JOBS)
 	@cd $(ARMHF_DIR) && cpack
+
+# Brings translations/*.ts up to date with the code (lupdate); translations
+# already made are kept, vanished texts marked obsolete.
+translations: configure
+	@cmake --build $(BUILD_DIR) -j $(JOBS) --target translations
 
 demo: build
 	@sh tools/demo.sh $(BUILD_DIR)

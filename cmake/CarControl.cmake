@@ -17,6 +17,8 @@ function(carcontrol_plugin_code target)
         CXX_STANDARD 11
         CXX_STANDARD_REQUIRED ON
         CXX_EXTENSIONS OFF)
+    # The head unit's older compiler: standard C++11 and nothing of GNU's.
+    target_compile_options(${target} PRIVATE -pedantic-errors)
     target_include_directories(${target} PUBLIC ${CARCONTROL_PLUGIN_INCLUDE_DIRS})
     if(CARCONTROL_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=vptr)

@@ -81,7 +81,7 @@ QByteArray sealed(QByteArray frame)
 void send(QByteArray frame)
 {
     CanObj::autoCalculateChecksum(frame);
-    CanObj::instance()->sendDataToCan(frame);
+    emit CanObj::instance()->sendDataToCan(frame);
 }
 
 } // namespace Frames

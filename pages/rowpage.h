@@ -31,6 +31,9 @@ public:
     // what the pages show and send.
     QList<Row> const &rows() const { return m_rows; }
     int dataBufferId() const { return bufferId(); }
+    // The table as the buffer makes it now, without building the list: for
+    // tools that list what any car could show.
+    QList<Row> currentRowTable() const { return rowTable(); }
 
 public slots:
     void onModelReset();

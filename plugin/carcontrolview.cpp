@@ -5,6 +5,7 @@
 #include "dialogview.h"
 #include "exview.h"
 #include "tipdialog.h"
+#include "translation.h"
 
 using zorvappframework::UIManager;
 
@@ -15,6 +16,7 @@ CarControlView::CarControlView(QObject *parent)
     , exView(0)
     , exDialogView(0)
 {
+    followLocale();
 }
 
 // A view may be in the middle of one of its own events when the framework
@@ -101,6 +103,7 @@ void CarControlView::setData(QVariant const &data)
 void CarControlView::showDialogView()
 {
     if (!dialogView) {
+        followLocale();
         dialogView = new DialogView(UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel0));
         dialogView->setObjectName(QStringLiteral("dialogView"));
         connect(dialogView, SIGNAL(destroyed()), this, SLOT(onViewDestoryed()));
@@ -214,6 +217,7 @@ void CarControlView::ensureDialogView()
 
 ExView *CarControlView::createExView(int level)
 {
+    followLocale();
     ExView *view = new ExView(UIManager::getUIHerarchy(zorvappframework::UIHerarchy(level)));
     connect(view, SIGNAL(destroyed()), this, SLOT(onViewDestoryed()));
     view->setGeometry(UIManager::getMainAreaRect());

@@ -17,4 +17,9 @@ enum ImageRoot {
 // its own.
 QString imagePath(ImageRoot root, QString const &name);
 
+// The folder of the plug-in's translations (carcontrol_<locale>.qm), beside
+// the two trees: /application/resource/carcontrol/translations, under the
+// same stand-in root.
+QString translationsPath();
+
 #endif // IMAGEPATHS_H

@@ -73,29 +73,34 @@ void SampleReverseView::init()
     // The view paints every pixel of itself.
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_initialized = true;
+    emit stateChanged();
 }
 
 void SampleReverseView::setReverseSignalState(bool hadSig)
 {
     m_signalPresent = hadSig;
     update();
+    emit stateChanged();
 }
 
 // The sample draws the same picture for both drive sides.
 void SampleReverseView::setRightDriver(bool right)
 {
     m_rightDriver = right;
+    emit stateChanged();
 }
 
 void SampleReverseView::setRadarEnabled(bool enabled)
 {
     m_radarEnabled = enabled;
     update();
+    emit stateChanged();
 }
 
 void SampleReverseView::setRadarScale(quint8 scale)
 {
     m_radarScale = scale;
+    emit stateChanged();
 }
 
 void SampleReverseView::setRadarValues(quint8 const &value0, quint8 const &value1,
@@ -108,11 +113,13 @@ void SampleReverseView::setRadarValues(quint8 const &value0, quint8 const &value
     };
     memcpy(m_radarValues, values, sizeof(m_radarValues));
     update(radarArea());
+    emit stateChanged();
 }
 
 void SampleReverseView::setTrajectoryRange(int range)
 {
     m_trajectoryRange = range;
+    emit stateChanged();
 }
 
 void SampleReverseView::setTrajectoryValue(int value)
@@ -120,6 +127,7 @@ void SampleReverseView::setTrajectoryValue(int value)
     m_trajectoryValue = value;
     m_hasTrajectory = true;
     update();
+    emit stateChanged();
 }
 
 bool SampleReverseView::needShow()

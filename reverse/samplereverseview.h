@@ -22,14 +22,14 @@ class QPainter;
 class SampleReverseView : public ReverseView
 {
     Q_OBJECT
-    Q_PROPERTY(bool initialized READ isInitialized)
-    Q_PROPERTY(bool signalPresent READ signalPresent)
-    Q_PROPERTY(bool rightDriver READ rightDriver)
-    Q_PROPERTY(bool radarEnabled READ radarEnabled)
-    Q_PROPERTY(int radarScale READ radarScale)
-    Q_PROPERTY(QVariantList radarValues READ radarValues)
-    Q_PROPERTY(int trajectoryRange READ trajectoryRange)
-    Q_PROPERTY(int trajectoryValue READ trajectoryValue)
+    Q_PROPERTY(bool initialized READ isInitialized NOTIFY stateChanged)
+    Q_PROPERTY(bool signalPresent READ signalPresent NOTIFY stateChanged)
+    Q_PROPERTY(bool rightDriver READ rightDriver NOTIFY stateChanged)
+    Q_PROPERTY(bool radarEnabled READ radarEnabled NOTIFY stateChanged)
+    Q_PROPERTY(int radarScale READ radarScale NOTIFY stateChanged)
+    Q_PROPERTY(QVariantList radarValues READ radarValues NOTIFY stateChanged)
+    Q_PROPERTY(int trajectoryRange READ trajectoryRange NOTIFY stateChanged)
+    Q_PROPERTY(int trajectoryValue READ trajectoryValue NOTIFY stateChanged)
 public:
     // The radar record's eight distances, in its order: four sensors behind
     // the car, then four in front, each group from left to right.
@@ -60,6 +60,10 @@ public:
     QVariantList radarValues() const;
     int trajectoryRange() const;
     int trajectoryValue() const;
+
+signals:
+    // Any of the properties above has a new value.
+    void stateChanged();
 
 protected:
     void paintEvent(QPaintEvent *event) Q_DECL_OVERRIDE;

@@ -18,6 +18,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTime>
@@ -46,8 +47,9 @@ char const Usage[] =
     "  --window-screenshot FILE  show the window, run the scenario if one is\n"
     "                      given, save the whole window as PNG and quit\n"
     "  --demo DIR          run the demo tour headless, one PNG per step into DIR\n"
-    "  --gallery DIR       open every page of every family with demo data, one PNG\n"
-    "                      per page and an index.html into DIR, headless\n"
+    "  --gallery DIR       open every page of every family with sample data, one\n"
+    "                      PNG per screen of each page and an index.html into\n"
+    "                      DIR, headless\n"
     "  --box-coverage      print how many adjustable rows the decoder box answers\n"
     "  --catalogue FILE    the decoder box's catalogue (default: the build's,\n"
     "                      or $CARCONTROL_CATALOGUE_FILE)\n"
@@ -59,6 +61,8 @@ char const Usage[] =
     "  --list-protocols    print every protocol id with its family's first pages\n"
     "  --zoom PERCENT      the window's screen at 50 to 100 per cent of its size\n"
     "                      (default: what fits the desktop)\n"
+    "  --language LOCALE   the head unit's locale, e.g. zh_CN: the plug-in shows\n"
+    "                      its texts in that language where it has them\n"
     "  --plugin FILE       the car control plug-in (default:\n"
     "                      $CARCONTROL_PLUGIN_DIR/libcarcontrol.so)\n"
     "  --reverse-plugin FILE  the reverse plug-in (default: libreversesample.so\n"
@@ -80,6 +84,7 @@ struct Options
     QString plugin;
     QString reversePlugin;
     QString platform;
+    QString language;
     int protocol = Demo::ProtocolId;
     bool protocolGiven = false;
     QTime clock;
@@ -133,6 +138,14 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
         } else if (arg == QLatin1String("--platform") || arg == QLatin1String("-platform")) {
             if (!value(&options->platform))
                 return false;
+        } else if (arg == QLatin1String("--language")) {
+            if (!value(&options->language))
+                return false;
+            const QLocale locale(options->language);
+            if (locale.language() == QLocale::C && options->language != QLatin1String("C")) {
+                *error = QStringLiteral("--language %1 is not a locale").arg(options->language);
+                return false;
+            }
         } else if (arg == QLatin1String("--protocol")) {
             QString text;
             bool ok = false;
@@ -300,6 +313,10 @@ int main(int argc, char *argv[])
     int appArgc = 1;
     QApplication app(appArgc, argv);
     QApplication::setApplicationName(QStringLiteral("headunit-sim"));
+    // The head unit's locale, before the plug-in's root (which loads its
+    // translation) is made.
+    if (!options.language.isEmpty())
+        QLocale::setDefault(QLocale(options.language));
     DebugLog::capture(options.verbose || !headless);
 
     // Headless runs keep the head unit's settings to themselves, so that

@@ -16,12 +16,14 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -62,6 +64,7 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     , m_rightDriver(new QCheckBox(tr("Right-hand drive"), this))
     , m_wallpaper(new QCheckBox(tr("Wallpaper"), this))
     , m_box(new QCheckBox(tr("Decoder box answers"), this))
+    , m_languages(new QComboBox(this))
 {
     m_box->setObjectName(QStringLiteral("decoderBox"));
     m_protocols->setObjectName(QStringLiteral("protocolPicker"));
@@ -90,6 +93,7 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     vehicleForm->addRow(m_rightDriver);
     vehicleForm->addRow(m_wallpaper);
     vehicleForm->addRow(m_box);
+    vehicleForm->addRow(tr("Language"), m_languages);
     // The box writes what a setting frame asks into the buffer, as the car
     // reports it; without its catalogue it can't be switched on.
     m_box->setChecked(m_host.box().isEnabled());
@@ -109,6 +113,23 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     connect(m_rightDriver, &QCheckBox::toggled, this, [this](bool right) {
         HostSim::setRightDriver(right);
         m_host.call(QStringLiteral("setRightDriver"), {right});
+    });
+    // The head unit's locale: the source texts, or a language that the
+    // plug-in has a translation for. The plug-in follows it when it opens
+    // its next view.
+    m_languages->setObjectName(QStringLiteral("languagePicker"));
+    m_languages->setToolTip(tr("Takes effect on the next opening of a view"));
+    m_languages->addItem(tr("Source texts"), QStringLiteral("C"));
+    const QDir translations(QString::fromLocal8Bit(qgetenv("CARCONTROL_RESOURCE_ROOT")) + QStringLiteral("/translations"));
+    const QStringList files = translations.entryList({QStringLiteral("carcontrol_*.qm")}, QDir::Files, QDir::Name);
+    for (QString const &file : files) {
+        const QString name = file.mid(int(qstrlen("carcontrol_"))).chopped(3);
+        m_languages->addItem(QStringLiteral("%1 (%2)").arg(QLocale(name).nativeLanguageName(), name), name);
+    }
+    const int current = m_languages->findData(QLocale().name());
+    m_languages->setCurrentIndex(current < 0 ? 0 : current);
+    connect(m_languages, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        QLocale::setDefault(QLocale(m_languages->itemData(index).toString()));
     });
     connect(m_wallpaper, &QCheckBox::toggled, this, [this](bool on) {
         HostSim::setWallpaper(on ? SimulatorHost::wallpaper() : QPixmap());

@@ -44,6 +44,7 @@ private:
     QCheckBox *m_rightDriver;
     QCheckBox *m_wallpaper;
     QCheckBox *m_box;
+    QComboBox *m_languages;
     int m_shownProtocol = -1;
 };
 

@@ -4,10 +4,12 @@
 #   package_check.sh bench BUILD_DIR SOURCE_DIR
 #       unpacks the bench package into a temporary root and runs the
 #       unpacked headunit-sim on a scenario of family 28, with an empty
-#       environment, checking that no library comes from the build tree;
+#       environment, checking that no library comes from the build tree,
+#       and once more in Chinese;
 #   package_check.sh headunit BUILD_DIR SOURCE_DIR
 #       checks the head unit's package: armhf, a 32-bit ARM plug-in, and
-#       every picture the plug-in's code names at its absolute path.
+#       every picture the plug-in's code names and every translation at
+#       their absolute paths.
 # Both run lintian on the package and fail on any error it reports.
 set -eu
 
@@ -53,6 +55,11 @@ bench)
     fi
     grep 'calling init:' "$work/libs.log" | grep -q "$root/usr/lib/carcontrol/plugins/libcarcontrol.so" \
         || fail "the plug-in was not loaded from the package"
+    # The translations come with it: on a Chinese head unit, family 28 reads
+    # in Chinese.
+    env -i PATH=/usr/bin:/bin HOME="$work" QT_QPA_PLATFORM=offscreen \
+        "$sim" --language zh_CN --script "$source/tests/scenarios/protocol28_chinese.scn" > "$work/zh.log" 2>&1 \
+        || { cat "$work/zh.log" >&2; fail "the unpacked simulator shows no Chinese"; }
     ;;
 headunit)
     arch=$(dpkg-deb -f "$deb" Architecture)
@@ -75,7 +82,11 @@ headunit)
             | sed -E 's/imagePath\(OverlayImages, *[A-Za-z0-9]+\("/style4\//; s/imagePath\(ExtendedImages, *[A-Za-z0-9]+\("/exStyle4\//; s/"$//' | grep -v '%' | sort -u); do
         [ -f "$root$resources/$file" ] || { echo "missing: $resources/$file" >&2; missing=1; }
     done
-    [ "$missing" = 0 ] || fail "pictures missing from the package"
+    for ts in "$source"/translations/carcontrol_*.ts; do
+        file=translations/$(basename "$ts" .ts).qm
+        [ -f "$root$resources/$file" ] || { echo "missing: $resources/$file" >&2; missing=1; }
+    done
+    [ "$missing" = 0 ] || fail "pictures or translations missing from the package"
     ;;
 *)
     fail "unknown kind $kind"

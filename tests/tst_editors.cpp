@@ -463,8 +463,10 @@ private slots:
         button.setGeometry(0, 0, 200, 100);
         const QColor white(Qt::white);
         QCOMPARE(pixelsOf(rendered(&button, white), white, button.rect()), 200 * 100);
+        QSignalSpy textChanged(&button, &CDButton::textChanged);
         button.setText("Play", 0.3);
         QCOMPARE(button.property("text").toString(), QString("Play"));
+        QCOMPARE(textChanged.count(), 1);
         QImage image = rendered(&button, white);
         const int inked = 200 * 100 - pixelsOf(image, white, button.rect());
         QVERIFY2(inked > 100, qPrintable(QString::number(inked)));
@@ -478,6 +480,8 @@ private slots:
         button.setText("Play", 0.6);
         QVERIFY(200 * 100 - pixelsOf(rendered(&button, white), white, button.rect()) > inked * 2);
         QCOMPARE(button.textScale(), 0.6);
+        QCOMPARE(textChanged.count(), 1);   // the same text at another size
+
     }
 
     // --- Row-shaped editor --------------------------------------------------

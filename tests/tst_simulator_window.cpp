@@ -70,6 +70,7 @@ private slots:
     void carPanels();
     void bufferEditorAndFrameLog();
     void protocolChangeReopensViews();
+    void languagePicker();
     // Last: it takes the screen into a window of its own.
     void zoomedWindowFitsALaptop();
 
@@ -377,6 +378,46 @@ void TestSimulatorWindow::zoomedWindowFitsALaptop()
     EventPump::settle();
     QVERIFY(shown("page"));
     QCOMPARE(m_host->probe().pageStack()->currentIndex(), 1);
+}
+
+// The Car panel's language: the source texts and every language that the
+// plug-in has a translation for. A pick takes effect when a view opens next.
+void TestSimulatorWindow::languagePicker()
+{
+    auto *picker = m_window->findChild<QComboBox *>("languagePicker");
+    QVERIFY(picker);
+    QCOMPARE(picker->count(), 2);
+    QCOMPARE(picker->itemData(0).toString(), QString("C"));
+    QCOMPARE(picker->itemData(1).toString(), QString("zh_CN"));
+    auto secondTitle = [this] {
+        return m_host->probe().titleList()->model()->index(1, 0).data(Qt::DisplayRole).toString();
+    };
+    for (int i = 0; i < 3 && m_host->probe().findObject("exView"); ++i)
+        click(withText<QPushButton>(m_window, "Back"));
+    HostSim::setProtocolId(28);
+    m_host->call(QStringLiteral("setProtocolId"), {28});
+    EventPump::settle();
+
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QCOMPARE(secondTitle(), QString("Amplifier status"));
+    picker->setFocus();
+    QTest::keyClick(picker, Qt::Key_Down);
+    QCOMPARE(picker->currentData().toString(), QString("zh_CN"));
+    // The view that stands keeps its texts; the next one is in Chinese.
+    QCOMPARE(secondTitle(), QString("Amplifier status"));
+    click(withText<QPushButton>(m_window, "Back"));
+    QVERIFY(!m_host->probe().findObject("exView"));
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QCOMPARE(secondTitle(), QString::fromUtf8("功放状态"));
+
+    // And back to the source texts.
+    click(withText<QPushButton>(m_window, "Back"));
+    picker->setFocus();
+    QTest::keyClick(picker, Qt::Key_Up);
+    QCOMPARE(picker->currentData().toString(), QString("C"));
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QCOMPARE(secondTitle(), QString("Amplifier status"));
+    click(withText<QPushButton>(m_window, "Back"));
 }
 
 QTEST_MAIN(TestSimulatorWindow)

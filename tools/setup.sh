@@ -6,14 +6,16 @@
 #   tools/setup.sh armhf    also the head unit's build (make test-armhf): the
 #                           cross compiler, qemu-arm, and mmdebstrap, which
 #                           unpacks the armhf Qt (tools/armhf-sysroot.sh)
+#   tools/setup.sh lint     also clazy, Qt's static analysis (make lint)
 set -eu
 
-PACKAGES="cmake make g++ ccache qtbase5-dev qtbase5-dev-tools dpkg-dev lintian \
+PACKAGES="cmake make g++ ccache python3 qtbase5-dev qtbase5-dev-tools qttools5-dev-tools dpkg-dev lintian \
 fonts-dejavu-core fonts-wqy-microhei"
 
 for group in "$@"; do
     case $group in
         armhf) PACKAGES="$PACKAGES crossbuild-essential-armhf qemu-user mmdebstrap" ;;
+        lint) PACKAGES="$PACKAGES clazy" ;;
         *) echo "setup: unknown group $group" >&2; exit 2 ;;
     esac
 done

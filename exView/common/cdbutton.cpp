@@ -27,9 +27,12 @@ void CDButton::setBackgroundColor(QColor const &normal, QColor const &pressed, Q
 
 void CDButton::setText(QString const &text, double const &scale)
 {
+    const bool changed = text != m_text;
     m_text = text;
     m_scale = scale;
     update();
+    if (changed)
+        emit textChanged();
 }
 
 void CDButton::setProhibit(bool usable)

@@ -12,7 +12,7 @@
 class CDButton : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QString text READ text)
+    Q_PROPERTY(QString text READ text NOTIFY textChanged)
 public:
     explicit CDButton(QWidget *parent = 0);
 
@@ -29,6 +29,7 @@ public:
 
 signals:
     void clicked();
+    void textChanged();
 
 protected:
     void paintEvent(QPaintEvent *event);

@@ -137,7 +137,8 @@ void CarInfoItem37_1::valueStepped(int row, int value)
     // The head unit keeps the steering wheel's button layout: the choice
     // goes into the buffer and the store before the car hears of it.
     if (row == SteeringWheelButtonRow) {
-        buffer().setByte(SteeringWheelButtonByte, quint8(value));
+        DataBuffer data = buffer();
+        data.setByte(SteeringWheelButtonByte, quint8(value));
         DataSaveControl::saveSettingData(QStringLiteral("SteeringWheelButtonType"), value, QString());
     }
     RowPage::valueStepped(row, value);
@@ -192,7 +193,8 @@ void CarInfoItem37_2::valueStepped(int row, int value)
     // The model is the head unit's choice: it is kept in the buffer and the
     // store and shown at once, and only then told to the car.
     if (row == ModelRow) {
-        buffer().setByte(ModelByte, quint8(value));
+        DataBuffer data = buffer();
+        data.setByte(ModelByte, quint8(value));
         DataSaveControl::saveUserData(QStringLiteral("CanbusCAR"), value);
         updateRow(row, value);
     }

@@ -1,10 +1,13 @@
 // Writes the catalogue of vehicles as data and as a readable reference:
 //
-//     carcontrol-catalogue OUTPUT.json OUTPUT.md
+//     carcontrol-catalogue OUTPUT.json OUTPUT.md [TEXTS.cpp]
 //
 // and prints how many adjustable rows the simulator's decoder box answers.
+// TEXTS.cpp, when given, receives the texts that the pages translate while
+// they run, for lupdate (see pagetexts.h).
 
 #include "catalogueexport.h"
+#include "pagetexts.h"
 
 #include <QApplication>
 #include <QFile>
@@ -39,8 +42,8 @@ int main(int argc, char **argv)
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
     QApplication app(argc, argv);
     const QStringList args = app.arguments();
-    if (args.size() != 3) {
-        std::fprintf(stderr, "usage: carcontrol-catalogue OUTPUT.json OUTPUT.md\n");
+    if (args.size() != 3 && args.size() != 4) {
+        std::fprintf(stderr, "usage: carcontrol-catalogue OUTPUT.json OUTPUT.md [TEXTS.cpp]\n");
         return 2;
     }
     // The pages' debug lines would drown the figures.
@@ -50,7 +53,8 @@ int main(int argc, char **argv)
     });
     const QJsonObject catalogue = CatalogueExport::exportCatalogue();
     if (!save(args.at(1), QJsonDocument(catalogue).toJson(QJsonDocument::Compact))
-        || !save(args.at(2), CatalogueExport::reference(catalogue).toUtf8()))
+        || !save(args.at(2), CatalogueExport::reference(catalogue).toUtf8())
+        || (args.size() == 4 && !save(args.at(3), PageTexts::source())))
         return 1;
     std::printf("Catalogue: %d families; the decoder box answers %d of %d adjustable rows.\n",
                 catalogue.value("families").toArray().size(), catalogue.value("answered").toInt(),
