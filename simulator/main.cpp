@@ -460,8 +460,9 @@ int main(int argc, char *argv[])
         if (!options.script.isEmpty())
             status = window.runScenario(script);
         if (!options.windowScreenshot.isEmpty()) {
-            if (!window.saveWindow(options.windowScreenshot)) {
-                printError(QStringLiteral("%1: can't write the picture").arg(options.windowScreenshot));
+            QString saveError;
+            if (!window.saveWindow(options.windowScreenshot, &saveError)) {
+                printError(saveError);
                 status = Scenario::Failed;
             }
             window.close();

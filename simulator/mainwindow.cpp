@@ -209,9 +209,9 @@ int MainWindow::runScenario(Scenario::Script const &script)
     return result.status;
 }
 
-bool MainWindow::saveWindow(QString const &file)
+bool MainWindow::saveWindow(QString const &file, QString *error)
 {
-    return grab().save(file, "PNG");
+    return Scenario::savePicture(grab(), file, error);
 }
 
 void MainWindow::runCommandLine()

@@ -37,8 +37,9 @@ public:
     // Runs a scenario in the window; the result goes to the status bar and
     // to standard error. Returns the scenario's exit status.
     int runScenario(Scenario::Script const &script);
-    // Saves the whole window as PNG. False when the file can't be written.
-    bool saveWindow(QString const &file);
+    // Saves the whole window as PNG. False, with the path and the reason in
+    // *error, when the file can't be written.
+    bool saveWindow(QString const &file, QString *error);
 
 protected:
     void timerEvent(QTimerEvent *event) override;
