@@ -772,6 +772,16 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
         }
         return in.choice(QStringLiteral("box"), {QStringLiteral("on"), QStringLiteral("off")}, &c->name) && in.end();
     }
+    if (word == QLatin1String("replay")) {
+        c->kind = Kind::Replay;
+        QString file;
+        if (!in.text(QStringLiteral("file"), &file))
+            return false;
+        if (file.isEmpty())
+            return in.fail(QStringLiteral("empty file name"));
+        c->texts << file;
+        return in.end();
+    }
     if (word == QLatin1String("screenshot")) {
         c->kind = Kind::Screenshot;
         QString file;
