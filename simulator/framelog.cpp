@@ -60,10 +60,11 @@ void FrameLog::attach(SimulatorHost &host)
     });
     SimulatorHost *source = &host;
     connect(box, &DecoderBox::answered, this,
-            [this, source](QByteArray const &, QList<DecoderBox::WrittenByte> const &written) {
+            [this, source](QByteArray const &frame, QList<DecoderBox::WrittenByte> const &written) {
         Entry entry;
         entry.ms = source->elapsed();
         entry.direction = Rx;
+        entry.frame = frame;
         entry.protocolId = CanObj::id();
         entry.written = written;
         entry.meaning = QStringLiteral("dataChanged()");
@@ -90,23 +91,34 @@ void FrameLog::clear()
     emit cleared();
 }
 
+QString FrameLog::bytesText(Entry const &entry)
+{
+    if (entry.direction == Tx)
+        return Scenario::hex(entry.frame);
+    QStringList parts;
+    // Bytes that follow each other in one buffer make one run.
+    for (int i = 0; i < entry.written.size(); ++i) {
+        DecoderBox::WrittenByte const &byte = entry.written.at(i);
+        const bool continues = i > 0 && entry.written.at(i - 1).bufferId == byte.bufferId
+                && entry.written.at(i - 1).offset + 1 == byte.offset;
+        if (!continues)
+            parts << QStringLiteral("%1:%2").arg(byte.bufferId).arg(byte.offset);
+        parts << QStringLiteral("%1").arg(byte.value, 2, 16, QLatin1Char('0')).toUpper();
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
+QString FrameLog::timeText(qint64 ms)
+{
+    return QStringLiteral("%1.%2").arg(ms / 1000).arg(ms % 1000, 3, 10, QLatin1Char('0'));
+}
+
 QString FrameLog::line(Entry const &entry)
 {
-    QString text = seconds(entry.ms);
-    if (entry.direction == Tx) {
-        text += QStringLiteral(" TX ") + Scenario::hex(entry.frame);
-    } else {
-        text += QStringLiteral(" RX");
-        // Bytes that follow each other in one buffer make one run.
-        for (int i = 0; i < entry.written.size(); ++i) {
-            DecoderBox::WrittenByte const &byte = entry.written.at(i);
-            const bool continues = i > 0 && entry.written.at(i - 1).bufferId == byte.bufferId
-                    && entry.written.at(i - 1).offset + 1 == byte.offset;
-            if (!continues)
-                text += QStringLiteral(" %1:%2").arg(byte.bufferId).arg(byte.offset);
-            text += QStringLiteral(" %1").arg(byte.value, 2, 16, QLatin1Char('0')).toUpper();
-        }
-    }
+    QString text = seconds(entry.ms) + (entry.direction == Tx ? QStringLiteral(" TX") : QStringLiteral(" RX"));
+    const QString bytes = bytesText(entry);
+    if (!bytes.isEmpty())
+        text += QLatin1Char(' ') + bytes;
     if (!entry.meaning.isEmpty())
         text += QStringLiteral("  # ") + entry.meaning;
     return text;

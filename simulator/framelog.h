@@ -38,7 +38,8 @@ public:
         Direction direction = Tx;
         // The protocol selected when the frame went out.
         int protocolId = 0;
-        // TX: the frame's bytes.
+        // TX: the frame's bytes; RX: the frame answered, where known (a
+        // file doesn't keep it).
         QByteArray frame;
         // RX: what the answer wrote.
         QList<DecoderBox::WrittenByte> written;
@@ -61,6 +62,10 @@ public:
 
     // An entry as a line of the file, without the line's end; and back.
     static QString line(Entry const &entry);
+    // The bytes of a line: a frame in hex, or the runs that an answer wrote.
+    static QString bytesText(Entry const &entry);
+    // Seconds with milliseconds: "12.345".
+    static QString timeText(qint64 ms);
     // False, with the reason in *error, for a line that isn't a TX or RX
     // line; protocolId is the protocol of the last "# protocol N" line.
     static bool parseLine(QString const &text, int protocolId, Entry *entry, QString *error);

@@ -156,7 +156,9 @@ Recorder::State Recorder::fresh()
     state.door = bytesOf(&door, int(sizeof door));
     state.body = bytesOf(&body, RecordFields::CarbodyBytes);
     state.radar = bytesOf(&radar, RecordFields::RadarBytes);
-    state.flags = {false, false, false, false};
+    // A fresh host: left-hand drive, a guide line reported and wanted, the
+    // radar shown.
+    state.flags = {false, true, true, false};
     return state;
 }
 
@@ -307,13 +309,15 @@ void Recorder::writeChanges(bool preamble)
         write(QStringLiteral("protocol %1").arg(id));
 
     QByteArray before = m_state.buffers.value(id);
-    if (before.isEmpty())
+    // A buffer not seen before is a fresh host's: zeros, its texts unknown.
+    const bool firstSight = before.isEmpty();
+    if (firstSight)
         before = QByteArray(HostSim::bufferSize(), '\0');
     QByteArray const &after = current.buffers.value(id);
     // Text fields hold handles to their texts: where the catalogue knows a
     // text field, the text is written instead of the handle's bytes.
     QList<int> texts;
-    if (preamble) {
+    if (preamble || firstSight) {
         const DataBuffer buffer = HostSim::buffer(id);
         for (int offset : m_host.box().textOffsets(id)) {
             const QString text = buffer.text(offset);
@@ -396,9 +400,7 @@ void Recorder::flush()
         qint64 ms = qMin(now - m_actionEnd, m_lastEvent - m_actionEnd + WaitMarginMs);
         ms = (qMax<qint64>(ms, 0) + 9) / 10 * 10;
         write(QStringLiteral("wait %1").arg(ms));
-        for (QByteArray const &frame : qAsConst(m_frames))
-            write(QStringLiteral("expect frame ") + Scenario::hex(frame));
-        m_frames.clear();
+        writeFrames();
         writeScreen();
         // The box's answers are the car's; the plug-in may have written too.
         m_state = this->now();
@@ -407,12 +409,30 @@ void Recorder::flush()
     m_lastEvent = -1;
 }
 
+void Recorder::writeFrames()
+{
+    for (int i = 0; i < m_frames.size(); ++i) {
+        if (!m_frames.at(i).isEmpty()) {
+            write(QStringLiteral("expect frame ") + Scenario::hex(m_frames.at(i)));
+            continue;
+        }
+        // expect frame can't name an empty frame: the frames from it on
+        // are counted and dropped.
+        write(QStringLiteral("# not expressible: an empty frame went out; it and the %1 after it are counted and dropped")
+                  .arg(m_frames.size() - i - 1));
+        for (int j = i + 1; j < m_frames.size(); ++j)
+            write(QStringLiteral("#   ") + Scenario::hex(m_frames.at(j)));
+        write(QStringLiteral("expect frames %1").arg(m_frames.size() - i));
+        write(QStringLiteral("drop frames"));
+        break;
+    }
+    m_frames.clear();
+}
+
 void Recorder::finish()
 {
     m_finishPending = false;
-    for (QByteArray const &frame : qAsConst(m_frames))
-        write(QStringLiteral("expect frame ") + Scenario::hex(frame));
-    m_frames.clear();
+    writeFrames();
     if (m_inputAction)
         writeScreen();
     m_inputAction = false;

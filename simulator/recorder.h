@@ -85,6 +85,8 @@ private:
     void flush();
     // After an action: the frames it sent and what the screen shows.
     void finish();
+    // expect frame for each frame sent since the last.
+    void writeFrames();
     void finishLater();
     bool onScreen(QWidget *widget) const;
     void pressed(QWidget *widget, QPoint const &local);
