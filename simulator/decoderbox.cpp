@@ -241,6 +241,8 @@ QString DecoderBox::check(QByteArray const &frame, int protocolId, QList<Answer>
         return QStringLiteral("bad checksum");
     if (isRequest(frame))
         return QString();
+    if (!isLoaded())
+        return QStringLiteral("no catalogue");
     if (!m_familyOfId.contains(protocolId))
         return QStringLiteral("protocol %1 has no pages").arg(protocolId);
     const QByteArray bytes = frame.left(frame.size() - checksumBytes(frame, protocolId));
