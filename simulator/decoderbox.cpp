@@ -56,6 +56,8 @@ bool parseFrame(QString const &text, QByteArray *bytes, QByteArray *care)
 DecoderBox::DecoderBox(QObject *parent)
     : QObject(parent)
 {
+    // For queued connections and signal spies.
+    qRegisterMetaType<QList<DecoderBox::WrittenByte>>();
 }
 
 bool DecoderBox::load(QString const &file, QString *error)

@@ -140,4 +140,7 @@ private:
     int m_delay = DefaultDelayMs;
 };
 
+Q_DECLARE_METATYPE(DecoderBox::WrittenByte)
+Q_DECLARE_METATYPE(QList<DecoderBox::WrittenByte>)
+
 #endif // DECODERBOX_H

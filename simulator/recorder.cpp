@@ -196,7 +196,7 @@ bool Recorder::start(QString const &file, QString *error)
     m_frames.clear();
     m_recording = true;
     m_commandDepth = 0;
-    m_finishPending = m_inputAction = m_keyDown = false;
+    m_finishPending = m_callPending = m_inputAction = m_keyDown = false;
     m_pressActive = false;
     m_touchedRow = -1;
     write(QStringLiteral("# Recorded with headunit-sim, %1; replay with headunit-sim --script FILE")
@@ -242,6 +242,12 @@ bool Recorder::start(QString const &file, QString *error)
     connect(&m_host, &SimulatorHost::commandStarted, this, &Recorder::commandStarted);
     connect(&m_host, &SimulatorHost::commandFinished, this, &Recorder::commandFinished);
     connect(&m_host, &SimulatorHost::aboutToCall, this, &Recorder::rootCalled);
+    connect(&m_host, &SimulatorHost::called, this, [this] {
+        if (m_callPending) {
+            m_callPending = false;
+            finish();
+        }
+    });
     connect(HostSim::canbusSignals(), SIGNAL(dataChanged()), this, SLOT(onDataChanged()));
     connect(&m_host.box(), &DecoderBox::answered, this,
             [this](QByteArray const &, QList<DecoderBox::WrittenByte> const &written) {
@@ -482,7 +488,8 @@ void Recorder::rootCalled(QString const &operation, QVariantList const &args)
         line += QLatin1Char(' ') + text;
     }
     write(line);
-    finishLater();
+    // The call's frames and changes are in when it returns (called()).
+    m_callPending = true;
 }
 
 void Recorder::onDataChanged()
@@ -492,7 +499,8 @@ void Recorder::onDataChanged()
     flush();
     writeChanges();
     write(QStringLiteral("notify"));
-    finishLater();
+    // The plug-in's own slots ran before this one: what it did is in.
+    finish();
 }
 
 bool Recorder::onScreen(QWidget *widget) const

@@ -110,6 +110,7 @@ private:
     // A scenario command is running; its input comes through the events.
     int m_commandDepth = 0;
     bool m_finishPending = false;
+    bool m_callPending = false;
     bool m_inputAction = false;
     int m_touchedRow = -1;
     // The press that a release completes, and what it landed on, named

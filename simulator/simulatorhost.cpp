@@ -108,6 +108,8 @@ void SimulatorHost::call(QString const &operation, QVariantList const &args)
         emit aboutToCall(operation, args);
     if (m_root && !RootCalls::invoke(m_root, operation, args))
         qWarning("headunit-sim: the root has no operation %s", qPrintable(operation));
+    if (m_root)
+        emit called(operation);
 }
 
 QWidget *SimulatorHost::screen() const

@@ -82,8 +82,9 @@ public:
 signals:
     // A frame went to the decoder box; ms since the host started.
     void frameSent(qint64 ms, QByteArray frame);
-    // One of the root's operations is about to be called.
+    // One of the root's operations is about to be called, and returned.
     void aboutToCall(QString const &operation, QVariantList const &args);
+    void called(QString const &operation);
     // A scenario runner starts and ends a command (its pending events
     // delivered).
     void commandStarted(Scenario::Command const &command);
