@@ -166,7 +166,10 @@ Recorder::State Recorder::now() const
 {
     State state = m_state;
     state.protocol = CanObj::id();
-    state.buffers.insert(state.protocol, bytesOf(HostSim::buffer(state.protocol).data(), HostSim::bufferSize()));
+    // The buffers seen so far and the current one.
+    state.buffers.insert(state.protocol, QByteArray());
+    for (auto it = state.buffers.begin(); it != state.buffers.end(); ++it)
+        it.value() = bytesOf(HostSim::buffer(it.key()).data(), HostSim::bufferSize());
     AirData const &air = *HostSim::airData();
     state.air = QByteArray(AirRecordBytes, '\0');
     for (int offset = 0; offset < AirRecordBytes; ++offset)
@@ -276,7 +279,8 @@ void Recorder::stop()
 {
     if (!m_recording)
         return;
-    qApp->removeEventFilter(this);
+    if (qApp)
+        qApp->removeEventFilter(this);
     flush();
     write(QStringLiteral("# end of the recording"));
     m_recording = false;
@@ -432,6 +436,8 @@ void Recorder::finish()
     if (m_inputAction)
         writeScreen();
     m_inputAction = false;
+    // A key whose release never came (the press took its widget away).
+    m_keyDown = false;
     m_state = now();
     m_actionEnd = m_clock.elapsed();
     m_lastEvent = -1;
@@ -464,6 +470,9 @@ void Recorder::commandStarted(Scenario::Command const &command)
 void Recorder::commandFinished(Scenario::Command const &command)
 {
     endPress();
+    // A buffer that the command wrote by its id is the command's.
+    if (command.id != Scenario::CurrentProtocol && !m_state.buffers.contains(command.id))
+        m_state.buffers.insert(command.id, QByteArray());
     if (isVerbatim(command) || isInput(command))
         finish();
     m_commandDepth = qMax(0, m_commandDepth - 1);
