@@ -264,7 +264,7 @@ QString DecoderBox::describe(QByteArray const &frame, int protocolId) const
         return QStringLiteral("request");
     Answer const &first = found.first();
     bool shows = false;
-    for (Answer const &answer : found)
+    for (Answer const &answer : qAsConst(found))
         shows = shows || answer.shows;
     return QStringLiteral("%1 %2 -> %3%4").arg(first.page, Scenario::quoted(first.title)).arg(first.value)
             .arg(shows ? QString() : QStringLiteral(", no answer"));

@@ -35,8 +35,8 @@ bool place(QString const &token, int *bufferId, int *offset)
     if (colon < 1)
         return false;
     bool idOk = false, offsetOk = false;
-    *bufferId = token.left(colon).toInt(&idOk);
-    *offset = token.mid(colon + 1).toInt(&offsetOk);
+    *bufferId = token.leftRef(colon).toInt(&idOk);
+    *offset = token.midRef(colon + 1).toInt(&offsetOk);
     return idOk && offsetOk && *bufferId >= 0 && *offset >= 0;
 }
 
@@ -200,7 +200,7 @@ bool FrameLog::parse(QString const &file, QString const &text, QList<Entry> *ent
             continue;
         if (line.startsWith(QLatin1Char('#'))) {
             bool ok = false;
-            const int id = line.mid(ProtocolComment.size()).toInt(&ok);
+            const int id = line.midRef(ProtocolComment.size()).toInt(&ok);
             if (line.startsWith(ProtocolComment) && ok)
                 protocolId = id;
             continue;

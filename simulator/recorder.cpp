@@ -305,6 +305,12 @@ QStringList Recorder::lines() const
     return m_lines;
 }
 
+void Recorder::write(QStringList const &lines)
+{
+    for (QString const &line : lines)
+        write(line);
+}
+
 void Recorder::write(QString const &line)
 {
     m_lines << line;
@@ -332,7 +338,8 @@ void Recorder::writeChanges(bool preamble)
     QList<int> texts;
     if (preamble || firstSight) {
         const DataBuffer buffer = HostSim::buffer(id);
-        for (int offset : m_host.box().textOffsets(id)) {
+        const QList<int> known = m_host.box().textOffsets(id);
+        for (int offset : known) {
             const QString text = buffer.text(offset);
             if (text.isEmpty())
                 continue;
@@ -341,23 +348,19 @@ void Recorder::writeChanges(bool preamble)
         }
     }
     const auto notText = [&texts](int at) {
-        for (int offset : texts) {
+        for (int offset : qAsConst(texts)) {
             if (at >= offset && at < offset + 4)
                 return false;
         }
         return true;
     };
-    for (QString const &line : runs(QStringLiteral("buf"), before, after,
-                                    [&after](int i) { return quint8(after.at(i)); }, notText))
-        write(line);
+    write(runs(QStringLiteral("buf"), before, after, [&after](int i) { return quint8(after.at(i)); }, notText));
 
-    for (QString const &line : runs(QStringLiteral("air"), m_state.air, current.air,
-                                    [&current](int i) {
-                                        return RecordFields::isAirByteSigned(i) ? int(qint8(current.air.at(i)))
-                                                                                : int(quint8(current.air.at(i)));
-                                    },
-                                    [](int at) { return RecordFields::isAirByte(at); }))
-        write(line);
+    write(runs(QStringLiteral("air"), m_state.air, current.air,
+               [&current](int i) {
+                   return RecordFields::isAirByteSigned(i) ? int(qint8(current.air.at(i))) : int(quint8(current.air.at(i)));
+               },
+               [](int at) { return RecordFields::isAirByte(at); }));
     for (int i = 0; i < current.airTexts.size(); ++i) {
         if (current.airTexts.at(i) != m_state.airTexts.value(i))
             write(QStringLiteral("air.text %1 %2").arg(AirTextOffsets[i]).arg(Scenario::quoted(current.airTexts.at(i))));
@@ -370,12 +373,9 @@ void Recorder::writeChanges(bool preamble)
             bytes << QString::number(quint8(byte));
         write(QStringLiteral("door ") + bytes.join(QLatin1Char(' ')));
     }
-    for (QString const &line : runs(QStringLiteral("body"), m_state.body, current.body,
-                                    [&current](int i) { return quint8(current.body.at(i)); }))
-        write(line);
-    for (QString const &line : runs(QStringLiteral("radar"), m_state.radar, current.radar,
-                                    [&current](int i) { return quint8(current.radar.at(i)); }))
-        write(line);
+    write(runs(QStringLiteral("body"), m_state.body, current.body, [&current](int i) { return quint8(current.body.at(i)); }));
+    write(runs(QStringLiteral("radar"), m_state.radar, current.radar,
+               [&current](int i) { return quint8(current.radar.at(i)); }));
     for (int i = 0; i < current.flags.size(); ++i) {
         if (current.flags.at(i) != m_state.flags.value(i))
             write(QStringLiteral("host %1 %2").arg(QLatin1String(HostFlags[i])).arg(current.flags.at(i) ? 1 : 0));

@@ -76,6 +76,7 @@ private:
     State now() const;
 
     void write(QString const &line);
+    void write(QStringList const &lines);
     void writeChanges(bool preamble = false);
     void writeScreen();
     void commandStarted(Scenario::Command const &command);
