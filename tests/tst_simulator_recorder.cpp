@@ -338,6 +338,19 @@ void TestSimulatorRecorder::recordWindowSessionAndReplay()
 
     logs->stopRecording();
     QVERIFY(!window.findChild<QPushButton *>("recordButton")->isChecked());
+
+    // The panel's log saved, loaded back in its place, replayed.
+    const QString saved = m_dir.filePath("window.log");
+    QVERIFY2(logs->saveLog(saved, &error), qPrintable(error));
+    const int rows = frames->topLevelItemCount();
+    QVERIFY2(logs->loadLog(saved, &error), qPrintable(error));
+    QCOMPARE(frames->topLevelItemCount(), rows);
+    QCOMPARE(FrameLog::text(logs->frameLog().entries()), readAll(saved));
+    host.box().setEnabled(false);
+    QVERIFY(!logs->replayLog(saved, &error));
+    QVERIFY2(error.contains("decoder box is off"), qPrintable(error));
+    host.box().setEnabled(true);
+    QVERIFY2(logs->replayLog(saved, &error), qPrintable(error));
     window.close();
 
     const QString recording = readAll(file);
