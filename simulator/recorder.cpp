@@ -33,8 +33,9 @@ namespace {
 // between press and release dragged.
 constexpr qint64 LongPressMs = 300;
 constexpr int DragPixels = 3;
-// A wait reaches this far past the last frame or answer that came in it.
-constexpr qint64 WaitMarginMs = 50;
+// A wait reaches this far past the last frame or answer that came in it,
+// and no further than the time that passed.
+constexpr qint64 WaitMarginMs = 100;
 // What a fresh host's replay does on its own once the recording's first
 // lines brought back the screen: a page asks for its data 100 ms after it
 // shows.
