@@ -57,12 +57,12 @@ template <typename Value>
 QStringList runs(QString const &command, QByteArray const &before, QByteArray const &after, Value value,
                  std::function<bool(int)> const &takes = nullptr)
 {
+    const auto differs = [&](int at) {
+        return (!takes || takes(at)) && (at >= before.size() || before.at(at) != after.at(at));
+    };
     QStringList lines;
     int i = 0;
     while (i < after.size()) {
-        const auto differs = [&](int at) {
-            return (!takes || takes(at)) && (at >= before.size() || before.at(at) != after.at(at));
-        };
         if (!differs(i)) {
             ++i;
             continue;
