@@ -94,7 +94,7 @@ private slots:
     void malformedLogLines_data();
     void malformedLogLines();
     void replayMakesThePagesFollow();
-    void recordWindowSessionAndReplay();
+    void recordClicksInTheWindowAndReplay();
 
 private:
     QTemporaryDir m_dir;
@@ -228,7 +228,7 @@ void TestSimulatorRecorder::replayMakesThePagesFollow()
     HostSim::screen()->hide();
 }
 
-void TestSimulatorRecorder::recordWindowSessionAndReplay()
+void TestSimulatorRecorder::recordClicksInTheWindowAndReplay()
 {
     SimulatorHost host;
     QString error;
@@ -242,7 +242,7 @@ void TestSimulatorRecorder::recordWindowSessionAndReplay()
     EventPump::settle();
     auto *logs = window.findChild<LogPanel *>();
     QVERIFY(logs);
-    const QString file = m_dir.filePath("session.scn");
+    const QString file = m_dir.filePath("clicks.scn");
     QVERIFY2(logs->startRecording(file, &error), qPrintable(error));
     QVERIFY(window.findChild<QPushButton *>("recordButton")->isChecked());
     ScreenProbe const &probe = host.probe();
