@@ -6,8 +6,11 @@
 #include "debuglog.h"
 #include "demo.h"
 #include "eventpump.h"
+#include "framelog.h"
 #include "gallery.h"
+#include "logpanel.h"
 #include "mainwindow.h"
+#include "recorder.h"
 #include "scenariorunner.h"
 #include "simulatorhost.h"
 
@@ -40,6 +43,10 @@ char const Usage[] =
     "                      unless --window is given. Exit status: 0 all lines ran,\n"
     "                      1 an expectation failed, 2 a malformed line\n"
     "  --window            show the window, also while a scenario runs\n"
+    "  --record FILE       write what is done on the screen and the panels as a\n"
+    "                      scenario that replays it; with --script, what the\n"
+    "                      script does\n"
+    "  --frames FILE       save the frame log (TX frames, RX answers) at the end\n"
     "  --screenshot FILE   save the head unit's screen as PNG at the end\n"
     "  --window-screenshot FILE  show the window, run the scenario if one is\n"
     "                      given, save the whole window as PNG and quit\n"
@@ -63,6 +70,8 @@ char const Usage[] =
 struct Options
 {
     QString script;
+    QString record;
+    QString frames;
     QString screenshot;
     QString windowScreenshot;
     QString demoDirectory;
@@ -93,6 +102,12 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
         };
         if (arg == QLatin1String("--script")) {
             if (!value(&options->script))
+                return false;
+        } else if (arg == QLatin1String("--record")) {
+            if (!value(&options->record))
+                return false;
+        } else if (arg == QLatin1String("--frames")) {
+            if (!value(&options->frames))
                 return false;
         } else if (arg == QLatin1String("--screenshot")) {
             if (!value(&options->screenshot))
@@ -157,6 +172,11 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
     if (!options->galleryDirectory.isEmpty() && (!options->script.isEmpty() || options->window
                                                  || !options->demoDirectory.isEmpty())) {
         *error = QStringLiteral("--gallery runs on its own, without --script, --window or --demo");
+        return false;
+    }
+    if ((!options->record.isEmpty() || !options->frames.isEmpty())
+            && (!options->demoDirectory.isEmpty() || !options->galleryDirectory.isEmpty())) {
+        *error = QStringLiteral("--record and --frames go with a scenario or the window, not with --demo or --gallery");
         return false;
     }
     return true;
@@ -329,6 +349,13 @@ int main(int argc, char *argv[])
     if (headless) {
         HostSim::screen()->show();
         EventPump::settle();
+        FrameLog frames;
+        frames.attach(host);
+        Recorder recorder(host);
+        if (!options.record.isEmpty() && !recorder.start(options.record, &error)) {
+            printError(error);
+            return StartFailed;
+        }
         int status = Scenario::Passed;
         if (options.script.isEmpty()) {
             Demo::loadData(host);
@@ -340,6 +367,11 @@ int main(int argc, char *argv[])
                 std::fprintf(stderr, "%s\n", qPrintable(result.message));
             status = result.status;
         }
+        recorder.stop();
+        if (!options.frames.isEmpty() && !frames.save(options.frames, &error)) {
+            printError(error);
+            status = qMax(status, int(Scenario::Failed));
+        }
         if (!options.screenshot.isEmpty() && !saveScreenshot(host, options.screenshot) && status == Scenario::Passed)
             status = Scenario::Failed;
         return status;
@@ -350,6 +382,11 @@ int main(int argc, char *argv[])
         window.startDemoCar(options.protocol);
     // In the window the car answers: the box is on.
     host.box().setEnabled(true);
+    LogPanel *logs = window.findChild<LogPanel *>();
+    if (!options.record.isEmpty() && !logs->startRecording(options.record, &error)) {
+        printError(error);
+        return StartFailed;
+    }
     window.show();
     int status = Scenario::Passed;
     QTimer::singleShot(0, &window, [&] {
@@ -364,6 +401,9 @@ int main(int argc, char *argv[])
         }
     });
     const int appStatus = app.exec();
+    logs->stopRecording();
+    if (!options.frames.isEmpty() && !logs->frameLog().save(options.frames, &error))
+        printError(error);
     if (!options.screenshot.isEmpty())
         saveScreenshot(host, options.screenshot);
     host.unload();
