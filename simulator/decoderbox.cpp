@@ -81,6 +81,8 @@ QString sampleText(QString const &title)
 DecoderBox::DecoderBox(QObject *parent)
     : QObject(parent)
 {
+    // For queued connections and signal spies.
+    qRegisterMetaType<QList<DecoderBox::WrittenByte>>();
 }
 
 bool DecoderBox::load(QString const &file, QString *error)
@@ -127,6 +129,7 @@ bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
     }
     for (QJsonValue const &f : families) {
         const QJsonObject familyJson = f.toObject();
+        const int familyNumber = familyJson.value(QLatin1String("family")).toInt();
         Family family;
         for (QJsonValue const &id : familyJson.value(QLatin1String("ids")).toArray()) {
             family.ids.append(id.toInt());
@@ -139,6 +142,9 @@ bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
             family.rows += page.value(QLatin1String("rows")).toArray().size();
             family.emptyPages.append(page.value(QLatin1String("rows")).toArray().isEmpty()
                                      && !page.value(QLatin1String("ownWidgets")).toBool());
+            // Pages count from 1, as the gallery names them.
+            const QString pageName = QStringLiteral("%1_%2").arg(familyNumber)
+                                         .arg(page.value(QLatin1String("index")).toInt() + 1);
             for (QJsonValue const &r : page.value(QLatin1String("rows")).toArray()) {
                 const QJsonObject row = r.toObject();
                 auto writesOf = [](QJsonArray const &array) {
@@ -153,11 +159,14 @@ bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
                 };
                 const QJsonObject sample = row.value(QLatin1String("sample")).toObject();
                 const QJsonObject source = row.value(QLatin1String("source")).toObject();
+                const bool text = source.value(QLatin1String("type")).toString() == QLatin1String("text");
+                const int textOffset = source.value(QLatin1String("offset")).toInt();
                 if (!sample.isEmpty())
                     family.samples.append(Sample{bufferId, writesOf(sample.value(QLatin1String("writes")).toArray()), -1, QString()});
-                else if (source.value(QLatin1String("type")).toString() == QLatin1String("text"))
-                    family.samples.append(Sample{bufferId, {}, source.value(QLatin1String("offset")).toInt(),
-                                                 sampleText(row.value(QLatin1String("title")).toString())});
+                else if (text)
+                    family.samples.append(Sample{bufferId, {}, textOffset, sampleText(row.value(QLatin1String("title")).toString())});
+                if (text && !bufferId && !family.textOffsets.contains(textOffset))
+                    family.textOffsets.append(textOffset);
                 if (!row.value(QLatin1String("adjustable")).toBool())
                     continue;
                 ++m_adjustable;
@@ -165,10 +174,12 @@ bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
                     ++m_answered;
                 for (QJsonValue const &s : row.value(QLatin1String("steps")).toArray()) {
                     const QJsonObject step = s.toObject();
-                    if (!step.value(QLatin1String("shows")).toBool())
-                        continue;
                     Answer answer;
                     answer.bufferId = bufferId;
+                    answer.page = pageName;
+                    answer.title = row.value(QLatin1String("title")).toString();
+                    answer.value = step.value(QLatin1String("value")).toInt();
+                    answer.shows = step.value(QLatin1String("shows")).toBool();
                     if (!parseFrame(step.value(QLatin1String("frame")).toString(), &answer.bytes, &answer.care))
                         continue;
                     const QByteArray care = QByteArray::fromHex(step.value(QLatin1String("care")).toString().toLatin1());
@@ -288,46 +299,79 @@ QList<DecoderBox::Answer> DecoderBox::matches(Family const &family, QByteArray c
     return found;
 }
 
+QString DecoderBox::check(QByteArray const &frame, int protocolId, QList<Answer> *found) const
+{
+    if (frame.size() < 4)
+        return frame.isEmpty() ? QStringLiteral("empty frame") : QStringLiteral("too short");
+    const quint8 header = quint8(frame.at(0));
+    if (header != 0x2E && header != 0xFD)
+        return QStringLiteral("unknown header");
+    // The box checks the checksum by the same rule as the host fills it.
+    QByteArray sealed = frame;
+    CanObj::autoCalculateChecksum(sealed);
+    if (sealed != frame)
+        return QStringLiteral("bad checksum");
+    if (isRequest(frame))
+        return QString();
+    if (!isLoaded())
+        return QStringLiteral("no catalogue");
+    if (!m_familyOfId.contains(protocolId))
+        return QStringLiteral("protocol %1 has no pages").arg(protocolId);
+    const QByteArray bytes = frame.left(frame.size() - checksumBytes(frame, protocolId));
+    *found = matches(m_families.at(m_familyOfId.value(protocolId)), bytes);
+    return found->isEmpty() ? QStringLiteral("unknown frame") : QString();
+}
+
+QString DecoderBox::describe(QByteArray const &frame, int protocolId) const
+{
+    QList<Answer> found;
+    const QString reason = check(frame, protocolId, &found);
+    if (reason == QLatin1String("unknown frame"))
+        return reason;
+    if (!reason.isEmpty())
+        return QStringLiteral("unknown frame (%1)").arg(reason);
+    if (found.isEmpty())
+        return QStringLiteral("request");
+    Answer const &first = found.first();
+    bool shows = false;
+    for (Answer const &answer : qAsConst(found))
+        shows = shows || answer.shows;
+    return QStringLiteral("%1 %2 -> %3%4").arg(first.page, Scenario::quoted(first.title)).arg(first.value)
+            .arg(shows ? QString() : QStringLiteral(", no answer"));
+}
+
+QList<int> DecoderBox::textOffsets(int protocolId) const
+{
+    return m_familyOfId.contains(protocolId) ? m_families.at(m_familyOfId.value(protocolId)).textOffsets
+                                             : QList<int>();
+}
+
+bool DecoderBox::isAnswering() const
+{
+    return m_answering;
+}
+
 void DecoderBox::receive(QByteArray const &frame)
 {
     if (!m_enabled)
         return;
-    const QString text = frame.isEmpty() ? QStringLiteral("(empty)") : Scenario::hex(frame);
-    auto refuse = [&](QString const &reason) {
+    QList<Answer> found;
+    const QString reason = check(frame, CanObj::id(), &found);
+    if (!reason.isEmpty()) {
+        const QString text = frame.isEmpty() ? QStringLiteral("(empty)") : Scenario::hex(frame);
         emit unanswered(QStringLiteral("no answer: %1 (%2)").arg(text, reason));
-    };
-    if (frame.size() < 4) {
-        refuse(frame.isEmpty() ? QStringLiteral("empty frame") : QStringLiteral("too short"));
         return;
     }
-    const quint8 header = quint8(frame.at(0));
-    if (header != 0x2E && header != 0xFD) {
-        refuse(QStringLiteral("unknown header"));
+    QList<Answer> answers;
+    for (Answer const &answer : qAsConst(found)) {
+        if (answer.shows)
+            answers.append(answer);
+    }
+    if (answers.isEmpty() && !found.isEmpty()) {
+        emit unanswered(QStringLiteral("no answer: %1 (unknown frame)").arg(Scenario::hex(frame)));
         return;
     }
-    // The box checks the checksum by the same rule as the host fills it.
-    QByteArray sealed = frame;
-    CanObj::autoCalculateChecksum(sealed);
-    if (sealed != frame) {
-        refuse(QStringLiteral("bad checksum"));
-        return;
-    }
-    if (isRequest(frame)) {
-        answer(frame, QList<Answer>());
-        return;
-    }
-    const int protocolId = CanObj::id();
-    if (!m_familyOfId.contains(protocolId)) {
-        refuse(QStringLiteral("protocol %1 has no pages").arg(protocolId));
-        return;
-    }
-    const QByteArray bytes = frame.left(frame.size() - checksumBytes(frame, protocolId));
-    const QList<Answer> found = matches(m_families.at(m_familyOfId.value(protocolId)), bytes);
-    if (found.isEmpty()) {
-        refuse(QStringLiteral("unknown frame"));
-        return;
-    }
-    answer(frame, found);
+    answer(frame, answers);
 }
 
 void DecoderBox::answer(QByteArray const &frame, QList<Answer> const &answers)
@@ -337,12 +381,19 @@ void DecoderBox::answer(QByteArray const &frame, QList<Answer> const &answers)
         // The car changed protocol meanwhile: the answer is stale.
         if (!m_enabled || CanObj::id() != protocolId)
             return;
+        QList<WrittenByte> written;
         for (Answer const &answer : answers) {
-            DataBuffer buffer = HostSim::buffer(answer.bufferId ? answer.bufferId : protocolId);
-            for (Write const &w : answer.writes)
-                buffer.setByte(w.offset, quint8((buffer.byte(w.offset) & ~w.mask) | (w.value & w.mask)));
+            const int bufferId = answer.bufferId ? answer.bufferId : protocolId;
+            DataBuffer buffer = HostSim::buffer(bufferId);
+            for (Write const &w : answer.writes) {
+                const quint8 value = quint8((buffer.byte(w.offset) & ~w.mask) | (w.value & w.mask));
+                buffer.setByte(w.offset, value);
+                written.append(WrittenByte{bufferId, w.offset, value});
+            }
         }
+        m_answering = true;
         HostSim::notifyDataChanged();
-        emit answered(frame);
+        m_answering = false;
+        emit answered(frame, written);
     });
 }

@@ -24,6 +24,15 @@ class DecoderBox : public QObject
 public:
     static constexpr int DefaultDelayMs = 50;
 
+    // A byte that an answer wrote: the protocol whose buffer it is, its
+    // offset, and the value the byte holds afterwards.
+    struct WrittenByte
+    {
+        int bufferId;
+        int offset;
+        quint8 value;
+    };
+
     explicit DecoderBox(QObject *parent = nullptr);
 
     // Reads an exported catalogue. False, with the reason in *error, for a
@@ -66,6 +75,18 @@ public:
     // pages, "Amplifier, Vehicle settings, ..."; empty for a protocol the
     // catalogue doesn't know.
     QString familyName(int protocolId) const;
+    // What a frame means to the box under the protocol: the page, the row's
+    // title and the value that the frame sets (28_2 "Treble" -> 8), a
+    // request, or "unknown frame" with the reason the box refuses it. Where
+    // the catalogue knows the frame but the box doesn't answer it, ", no
+    // answer" follows. Works with the box off too.
+    QString describe(QByteArray const &frame, int protocolId) const;
+    // Whether the box is writing an answer now: the dataChanged() that is
+    // being emitted comes from the box, not from whoever plays the car.
+    bool isAnswering() const;
+    // The offsets of the text fields that the protocol's pages show, in the
+    // protocol's own buffer.
+    QList<int> textOffsets(int protocolId) const;
 
 public slots:
     // A frame to the decoder box: checked, and answered if the box knows it.
@@ -75,8 +96,9 @@ signals:
     void enabledChanged(bool enabled);
     // A frame the box couldn't answer: "no answer: 2E ... (reason)".
     void unanswered(QString const &line);
-    // The box wrote an answer into the buffer and signalled it.
-    void answered(QByteArray const &frame);
+    // The box wrote an answer into the buffer and signalled it; written
+    // holds the bytes in the order written (none for a request).
+    void answered(QByteArray const &frame, QList<DecoderBox::WrittenByte> const &written);
 
 private:
     struct Write
@@ -101,6 +123,12 @@ private:
         QByteArray care;
         QList<Write> writes;
         int bufferId;  // 0: the selected protocol's buffer
+        // Where the frame comes from: "28_2", the row's title, the value.
+        QString page;
+        QString title;
+        int value;
+        // The box answers the frame (the page shows what it writes).
+        bool shows;
     };
     struct Family
     {
@@ -112,9 +140,15 @@ private:
         QStringList titles;
         int rows = 0;
         QList<bool> emptyPages;
+        // Text fields of the family's own buffer.
+        QList<int> textOffsets;
     };
 
+    // The steps of the family whose frame is bytes, answered or not.
     QList<Answer> matches(Family const &family, QByteArray const &bytes) const;
+    // Why the box refuses the frame under the protocol, or empty; *found
+    // gets the steps that match.
+    QString check(QByteArray const &frame, int protocolId, QList<Answer> *found) const;
     void answer(QByteArray const &frame, QList<Answer> const &answers);
 
     QList<Family> m_families;
@@ -122,7 +156,11 @@ private:
     int m_adjustable = 0;
     int m_answered = 0;
     bool m_enabled = false;
+    bool m_answering = false;
     int m_delay = DefaultDelayMs;
 };
+
+Q_DECLARE_METATYPE(DecoderBox::WrittenByte)
+Q_DECLARE_METATYPE(QList<DecoderBox::WrittenByte>)
 
 #endif // DECODERBOX_H

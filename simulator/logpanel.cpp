@@ -3,15 +3,20 @@
 #include "debuglog.h"
 #include "frames.h"
 #include "hostsim.h"
-#include "scenario.h"
+#include "recorder.h"
 #include "simulatorhost.h"
 
+#include <QComboBox>
+#include <QFileDialog>
 #include <QFontDatabase>
+#include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTime>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -21,10 +26,7 @@ constexpr int PollMs = 200;
 constexpr int MaxFrames = 5000;
 constexpr int MaxDebugLines = 5000;
 
-QString timeText(qint64 ms)
-{
-    return QStringLiteral("%1.%2").arg(ms / 1000).arg(ms % 1000, 3, 10, QLatin1Char('0'));
-}
+enum Column { TimeColumn, DirectionColumn, BytesColumn, FamilyColumn, CommandColumn, MeaningColumn };
 
 QString byteText(QByteArray const &frame, int index)
 {
@@ -41,11 +43,22 @@ QTreeWidget *table(QStringList const &headers, QWidget *parent)
     return tree;
 }
 
+QPushButton *toolButton(QString const &text, QString const &name, QWidget *parent)
+{
+    auto *button = new QPushButton(text, parent);
+    button->setObjectName(name);
+    // The head unit's screen keeps the keyboard focus.
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+
 } // namespace
 
 LogPanel::LogPanel(SimulatorHost &host, QWidget *parent)
     : QTabWidget(parent)
-    , m_frames(table({tr("Time"), tr("Bytes"), tr("Family"), tr("Command")}, this))
+    , m_host(host)
+    , m_recorder(new Recorder(host, this))
+    , m_frames(table({tr("Time"), tr("Dir"), tr("Bytes"), tr("Family"), tr("Command"), tr("Meaning")}, this))
     , m_commands(table({tr("Time"), tr("Key"), tr("Value")}, this))
     , m_debug(new QPlainTextEdit(this))
 {
@@ -54,43 +67,217 @@ LogPanel::LogPanel(SimulatorHost &host, QWidget *parent)
     m_debug->setObjectName(QStringLiteral("debugLog"));
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     m_frames->setFont(fixed);
-    m_frames->header()->setStretchLastSection(false);
-    m_frames->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    m_frames->header()->setStretchLastSection(true);
     m_debug->setReadOnly(true);
     m_debug->setFont(fixed);
     m_debug->setMaximumBlockCount(MaxDebugLines);
 
-    addTab(m_frames, tr("Frames"));
+    addTab(makeFrameTab(), tr("Frames"));
     addTab(m_commands, tr("Climate commands"));
     addTab(m_debug, tr("Debug lines"));
-    auto *clearButton = new QPushButton(tr("Clear"), this);
-    clearButton->setFocusPolicy(Qt::NoFocus);
+    auto *clearButton = toolButton(tr("Clear"), QStringLiteral("clearLogs"), this);
     setCornerWidget(clearButton);
     connect(clearButton, &QPushButton::clicked, this, &LogPanel::clear);
 
-    connect(&host, &SimulatorHost::frameSent, this, &LogPanel::appendFrame);
-    connect(&host.box(), &DecoderBox::unanswered, this, [this, &host](QString const &line) {
-        appendBoxLine(host.elapsed(), line);
-    });
+    m_log.attach(host);
+    connect(&m_log, &FrameLog::appended, this, &LogPanel::appendEntry);
     startTimer(PollMs);
 }
 
-void LogPanel::appendBoxLine(qint64 ms, QString const &line)
+QWidget *LogPanel::makeFrameTab()
 {
-    auto *item = new QTreeWidgetItem(m_frames, {timeText(ms), line, tr("box"), QString()});
-    item->setForeground(1, Qt::darkRed);
-    m_frames->scrollToItem(item);
+    auto *tab = new QWidget(this);
+    auto *layout = new QVBoxLayout(tab);
+    layout->setContentsMargins(0, 0, 0, 0);
+
+    auto *tools = new QHBoxLayout;
+    m_record = toolButton(tr("Record"), QStringLiteral("recordButton"), tab);
+    m_record->setCheckable(true);
+    m_record->setToolTip(tr("Write what you do on the screen and the panels as a scenario"));
+    QPushButton *save = toolButton(tr("Save log..."), QStringLiteral("saveLogButton"), tab);
+    QPushButton *load = toolButton(tr("Load log..."), QStringLiteral("loadLogButton"), tab);
+    QPushButton *replay = toolButton(tr("Replay log..."), QStringLiteral("replayLogButton"), tab);
+    replay->setToolTip(tr("Send a saved log's TX frames to the decoder box"));
+    for (QPushButton *button : {m_record, save, load, replay})
+        tools->addWidget(button);
+    tools->addStretch(1);
+    layout->addLayout(tools);
+
+    auto *filters = new QHBoxLayout;
+    m_family = new QComboBox(tab);
+    m_family->setObjectName(QStringLiteral("frameFamilyFilter"));
+    m_family->addItem(tr("All families"), QString());
+    m_family->addItem(QStringLiteral("2E"), QStringLiteral("2E"));
+    m_family->addItem(QStringLiteral("FD"), QStringLiteral("FD"));
+    m_command = new QLineEdit(tab);
+    m_command->setObjectName(QStringLiteral("frameCommandFilter"));
+    m_command->setPlaceholderText(tr("Command, e.g. A8"));
+    m_command->setMaximumWidth(140);
+    m_text = new QLineEdit(tab);
+    m_text->setObjectName(QStringLiteral("frameTextFilter"));
+    m_text->setPlaceholderText(tr("Text, e.g. Treble"));
+    m_text->setClearButtonEnabled(true);
+    filters->addWidget(m_family);
+    filters->addWidget(m_command);
+    filters->addWidget(m_text, 1);
+    layout->addLayout(filters);
+    layout->addWidget(m_frames, 1);
+
+    connect(m_family, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &LogPanel::applyFilter);
+    connect(m_command, &QLineEdit::textChanged, this, &LogPanel::applyFilter);
+    connect(m_text, &QLineEdit::textChanged, this, &LogPanel::applyFilter);
+    connect(m_record, &QPushButton::toggled, this, &LogPanel::toggleRecording);
+    const QString filter = tr("Frame logs (*.log *.txt);;All files (*)");
+    connect(save, &QPushButton::clicked, this, [this, filter] {
+        const QString file = QFileDialog::getSaveFileName(this, tr("Save the frame log"), QStringLiteral("frames.log"), filter);
+        QString error;
+        if (!file.isEmpty())
+            emit message(saveLog(file, &error) ? tr("Frame log saved to %1").arg(file) : error, !error.isEmpty());
+    });
+    connect(load, &QPushButton::clicked, this, [this, filter] {
+        const QString file = QFileDialog::getOpenFileName(this, tr("Load a frame log"), QString(), filter);
+        QString error;
+        if (!file.isEmpty())
+            emit message(loadLog(file, &error) ? tr("Frame log loaded from %1").arg(file) : error, !error.isEmpty());
+    });
+    connect(replay, &QPushButton::clicked, this, [this, filter] {
+        const QString file = QFileDialog::getOpenFileName(this, tr("Replay a frame log into the decoder box"), QString(), filter);
+        QString error;
+        if (!file.isEmpty())
+            emit message(replayLog(file, &error) ? tr("Replayed %1").arg(file) : error, !error.isEmpty());
+    });
+    return tab;
 }
 
-void LogPanel::appendFrame(qint64 ms, QByteArray const &frame)
+FrameLog &LogPanel::frameLog()
 {
+    return m_log;
+}
+
+bool LogPanel::saveLog(QString const &file, QString *error)
+{
+    return m_log.save(file, error);
+}
+
+bool LogPanel::loadLog(QString const &file, QString *error)
+{
+    QList<FrameLog::Entry> entries;
+    if (!FrameLog::load(file, &entries, error))
+        return false;
+    m_log.clear();
+    m_frames->clear();
+    for (FrameLog::Entry const &entry : qAsConst(entries))
+        m_log.append(entry);
+    return true;
+}
+
+bool LogPanel::replayLog(QString const &file, QString *error)
+{
+    if (!m_host.box().isEnabled()) {
+        *error = tr("The decoder box is off: switch it on to replay a log");
+        return false;
+    }
+    QList<FrameLog::Entry> entries;
+    if (!FrameLog::load(file, &entries, error))
+        return false;
+    if (FrameLog::replay(m_host.box(), entries) == 0) {
+        *error = tr("%1 holds no TX frames").arg(file);
+        return false;
+    }
+    return true;
+}
+
+bool LogPanel::startRecording(QString const &file, QString *error)
+{
+    if (!m_recorder->start(file, error))
+        return false;
+    const QSignalBlocker blocker(m_record);
+    m_record->setChecked(true);
+    m_record->setText(tr("Stop recording"));
+    return true;
+}
+
+void LogPanel::stopRecording()
+{
+    const bool was = m_recorder->isRecording();
+    m_recorder->stop();
+    const QSignalBlocker blocker(m_record);
+    m_record->setChecked(false);
+    m_record->setText(tr("Record"));
+    if (was)
+        emit message(tr("Recording written to %1").arg(m_recorder->file()), false);
+}
+
+bool LogPanel::isRecording() const
+{
+    return m_recorder->isRecording();
+}
+
+void LogPanel::toggleRecording(bool on)
+{
+    if (!on) {
+        stopRecording();
+        return;
+    }
+    const QString file = QFileDialog::getSaveFileName(this, tr("Record a scenario"), QStringLiteral("recording.scn"),
+                                                      tr("Scenarios (*.scn);;All files (*)"));
+    QString error;
+    if (file.isEmpty() || !startRecording(file, &error)) {
+        const QSignalBlocker blocker(m_record);
+        m_record->setChecked(false);
+        if (!file.isEmpty())
+            emit message(error, true);
+        return;
+    }
+    emit message(tr("Recording to %1").arg(file), false);
+}
+
+void LogPanel::appendEntry(FrameLog::Entry const &entry)
+{
+    QByteArray const &frame = entry.frame;
     // Family 2E has its command in byte 1, family FD (length first) in byte 2.
     const int commandAt = !frame.isEmpty() && quint8(frame.at(0)) == Frames::FamilyFD ? 2 : 1;
-    auto *item = new QTreeWidgetItem(m_frames, {timeText(ms), Scenario::hex(frame), byteText(frame, 0),
-                                                byteText(frame, commandAt)});
+    auto *item = new QTreeWidgetItem(m_frames, {FrameLog::timeText(entry.ms),
+                                                entry.direction == FrameLog::Tx ? QStringLiteral("TX") : QStringLiteral("RX"),
+                                                FrameLog::bytesText(entry), byteText(frame, 0),
+                                                byteText(frame, commandAt), entry.meaning});
+    if (entry.direction == FrameLog::Rx) {
+        for (int column = 0; column < item->columnCount(); ++column)
+            item->setForeground(column, Qt::darkBlue);
+    } else if (entry.meaning.startsWith(QLatin1String("unknown frame"))) {
+        item->setForeground(MeaningColumn, Qt::darkRed);
+    }
+    item->setHidden(!accepts(item));
     while (m_frames->topLevelItemCount() > MaxFrames)
         delete m_frames->takeTopLevelItem(0);
-    m_frames->scrollToItem(item);
+    if (!item->isHidden())
+        m_frames->scrollToItem(item);
+}
+
+bool LogPanel::accepts(QTreeWidgetItem const *item) const
+{
+    const QString family = m_family->currentData().toString();
+    if (!family.isEmpty() && item->text(FamilyColumn) != family)
+        return false;
+    const QString command = m_command->text().trimmed();
+    if (!command.isEmpty() && item->text(CommandColumn).compare(command, Qt::CaseInsensitive) != 0)
+        return false;
+    const QString text = m_text->text().trimmed();
+    if (text.isEmpty())
+        return true;
+    for (int column = 0; column < item->columnCount(); ++column) {
+        if (item->text(column).contains(text, Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
+void LogPanel::applyFilter()
+{
+    for (int i = 0; i < m_frames->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *item = m_frames->topLevelItem(i);
+        item->setHidden(!accepts(item));
+    }
 }
 
 void LogPanel::poll()
@@ -113,6 +300,7 @@ void LogPanel::poll()
 
 void LogPanel::clear()
 {
+    m_log.clear();
     m_frames->clear();
     m_commands->clear();
     m_debug->clear();

@@ -6,8 +6,11 @@
 #include "debuglog.h"
 #include "demo.h"
 #include "eventpump.h"
+#include "framelog.h"
 #include "gallery.h"
+#include "logpanel.h"
 #include "mainwindow.h"
+#include "recorder.h"
 #include "scenariorunner.h"
 #include "simulatorhost.h"
 
@@ -43,6 +46,10 @@ char const Usage[] =
     "                      unless --window is given. Exit status: 0 all lines ran,\n"
     "                      1 an expectation failed, 2 a malformed line\n"
     "  --window            show the window, also while a scenario runs\n"
+    "  --record FILE       write what is done on the screen and the panels as a\n"
+    "                      scenario that replays it; with --script, what the\n"
+    "                      script does\n"
+    "  --frames FILE       save the frame log (TX frames, RX answers) at the end\n"
     "  --screenshot FILE   save the head unit's screen as PNG at the end\n"
     "  --window-screenshot FILE  show the window, run the scenario if one is\n"
     "                      given, save the whole window as PNG and quit\n"
@@ -75,6 +82,8 @@ char const Usage[] =
 struct Options
 {
     QString script;
+    QString record;
+    QString frames;
     QString screenshot;
     QString windowScreenshot;
     QString demoDirectory;
@@ -110,6 +119,12 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
         };
         if (arg == QLatin1String("--script")) {
             if (!value(&options->script))
+                return false;
+        } else if (arg == QLatin1String("--record")) {
+            if (!value(&options->record))
+                return false;
+        } else if (arg == QLatin1String("--frames")) {
+            if (!value(&options->frames))
                 return false;
         } else if (arg == QLatin1String("--screenshot")) {
             if (!value(&options->screenshot))
@@ -212,6 +227,11 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
             *error = QStringLiteral("--protocol has no meaning with %1").arg(other);
             return false;
         }
+    }
+    if ((!options->record.isEmpty() || !options->frames.isEmpty())
+            && (!options->demoDirectory.isEmpty() || !options->galleryDirectory.isEmpty())) {
+        *error = QStringLiteral("--record and --frames go with a scenario or the window, not with --demo or --gallery");
+        return false;
     }
     return true;
 }
@@ -420,6 +440,13 @@ int main(int argc, char *argv[])
     if (headless) {
         HostSim::screen()->show();
         EventPump::settle();
+        FrameLog frames;
+        frames.attach(host);
+        Recorder recorder(host);
+        if (!options.record.isEmpty() && !recorder.start(options.record, &error)) {
+            printError(error);
+            return StartFailed;
+        }
         int status = Scenario::Passed;
         if (options.script.isEmpty()) {
             const Scenario::Result start = Demo::startCar(host, options.protocol);
@@ -437,6 +464,11 @@ int main(int argc, char *argv[])
                 std::fprintf(stderr, "%s\n", qPrintable(result.message));
             status = result.status;
         }
+        recorder.stop();
+        if (!options.frames.isEmpty() && !frames.save(options.frames, &error)) {
+            printError(error);
+            status = qMax(status, int(Scenario::Failed));
+        }
         if (!options.screenshot.isEmpty() && !saveScreenshot(host, options.screenshot) && status == Scenario::Passed)
             status = Scenario::Failed;
         return status;
@@ -452,6 +484,11 @@ int main(int argc, char *argv[])
         window.startDemoCar(options.protocol);
     // In the window the car answers: the box is on.
     host.box().setEnabled(true);
+    LogPanel *logs = window.findChild<LogPanel *>();
+    if (!options.record.isEmpty() && !logs->startRecording(options.record, &error)) {
+        printError(error);
+        return StartFailed;
+    }
     window.show();
     int status = Scenario::Passed;
     if (!options.script.isEmpty() && options.protocolGiven)
@@ -469,6 +506,9 @@ int main(int argc, char *argv[])
         }
     });
     const int appStatus = app.exec();
+    logs->stopRecording();
+    if (!options.frames.isEmpty() && !logs->frameLog().save(options.frames, &error))
+        printError(error);
     if (!options.screenshot.isEmpty())
         saveScreenshot(host, options.screenshot);
     host.unload();

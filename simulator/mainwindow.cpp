@@ -88,7 +88,9 @@ MainWindow::MainWindow(SimulatorHost &host, int zoom, QWidget *parent)
     controlsLayout->addWidget(tabs);
     controlsLayout->addWidget(makeCommandLine());
     panel->addWidget(controls);
-    panel->addWidget(new LogPanel(host, panel));
+    auto *logs = new LogPanel(host, panel);
+    connect(logs, &LogPanel::message, this, &MainWindow::showStatus);
+    panel->addWidget(logs);
     panel->setStretchFactor(0, 3);
     panel->setStretchFactor(1, 2);
     layout->addWidget(panel);

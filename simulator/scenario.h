@@ -50,8 +50,9 @@ enum class Kind {
     ExpectLabel, ExpectDown, ExpectExists, ExpectMissing, ExpectVisibleText, ExpectLog,
     ExpectNoVisibleText, ExpectEntries, ExpectEntry,
     Screenshot,
-    // The decoder box: on or off (name), its delay (numbers).
-    Box, BoxDelay
+    // The decoder box: on or off (name), its delay (numbers); a saved frame
+    // log replayed into it (texts: the file).
+    Box, BoxDelay, Replay
 };
 
 // The value of id for the data buffer of the current protocol.

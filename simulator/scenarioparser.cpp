@@ -772,8 +772,10 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
         }
         return in.choice(QStringLiteral("box"), {QStringLiteral("on"), QStringLiteral("off")}, &c->name) && in.end();
     }
-    if (word == QLatin1String("screenshot")) {
-        c->kind = Kind::Screenshot;
+    // The commands that take one file: a picture to write, a frame log to
+    // replay.
+    if (word == QLatin1String("screenshot") || word == QLatin1String("replay")) {
+        c->kind = word == QLatin1String("replay") ? Kind::Replay : Kind::Screenshot;
         QString file;
         if (!in.text(QStringLiteral("file"), &file))
             return false;

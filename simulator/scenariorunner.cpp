@@ -1,6 +1,7 @@
 #include "scenariorunner.h"
 
 #include "eventpump.h"
+#include "framelog.h"
 #include "hostsim.h"
 #include "radardata.h"
 #include "simulatorhost.h"
@@ -85,6 +86,7 @@ Result Runner::run(Script const &script)
 
 bool Runner::execute(Command const &command, QString *failure)
 {
+    emit m_host.commandStarted(command);
     bool held = true;
     if (VehicleState::changes(command))
         VehicleState::apply(command);
@@ -98,10 +100,37 @@ bool Runner::execute(Command const &command, QString *failure)
         held = screenshot(command.texts.value(0), failure);
     else if (command.kind == Kind::Box || command.kind == Kind::BoxDelay)
         held = setBox(command, failure);
+    else if (command.kind == Kind::Replay)
+        held = replay(command.texts.value(0), failure);
     else
         held = giveInput(command, failure);
     EventPump::settle();
+    emit m_host.commandFinished(command);
     return held;
+}
+
+bool Runner::replay(QString const &file, QString *failure)
+{
+    DecoderBox &box = m_host.box();
+    if (!box.isEnabled()) {
+        *failure = QStringLiteral("expected the decoder box on got off (box on first)");
+        return false;
+    }
+    QList<FrameLog::Entry> entries;
+    QString error;
+    if (!FrameLog::load(file, &entries, &error)) {
+        *failure = QStringLiteral("expected a frame log got %1").arg(error);
+        return false;
+    }
+    if (FrameLog::replay(box, entries) == 0) {
+        *failure = QStringLiteral("expected TX frames in %1 got none").arg(file);
+        return false;
+    }
+    // The box answers each frame after its delay: the pages follow before
+    // the next line.
+    constexpr int AnswerMarginMs = 20;
+    EventPump::wait(box.delay() + AnswerMarginMs);
+    return true;
 }
 
 bool Runner::setBox(Command const &command, QString *failure)

@@ -58,6 +58,7 @@ public:
 private:
     void callRoot(Command const &command);
     bool setBox(Command const &command, QString *failure);
+    bool replay(QString const &file, QString *failure);
     bool giveInput(Command const &command, QString *failure);
 
     SimulatorHost &m_host;

@@ -115,8 +115,12 @@ QString SimulatorHost::pluginFile() const
 
 void SimulatorHost::call(QString const &operation, QVariantList const &args)
 {
+    if (m_root)
+        emit aboutToCall(operation, args);
     if (m_root && !RootCalls::invoke(m_root, operation, args))
         qWarning("headunit-sim: the root has no operation %s", qPrintable(operation));
+    if (m_root)
+        emit called(operation);
 }
 
 QWidget *SimulatorHost::screen() const

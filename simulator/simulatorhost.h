@@ -19,6 +19,7 @@
 #include <QVariantList>
 
 #include "decoderbox.h"
+#include "scenario.h"
 #include "screenprobe.h"
 #include "userinput.h"
 
@@ -81,6 +82,13 @@ public:
 signals:
     // A frame went to the decoder box; ms since the host started.
     void frameSent(qint64 ms, QByteArray frame);
+    // One of the root's operations is about to be called, and returned.
+    void aboutToCall(QString const &operation, QVariantList const &args);
+    void called(QString const &operation);
+    // A scenario runner starts and ends a command (its pending events
+    // delivered).
+    void commandStarted(Scenario::Command const &command);
+    void commandFinished(Scenario::Command const &command);
 
 private:
     QPluginLoader m_loader;

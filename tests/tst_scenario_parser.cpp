@@ -360,6 +360,8 @@ void TestScenarioParser::expectations()
     QCOMPARE(parsed("expect visibletext \"tire pressure\"").kind, Kind::ExpectVisibleText);
     QCOMPARE(parsed("expect log \"createReverseView\"").kind, Kind::ExpectLog);
     QCOMPARE(parsed("screenshot shots/a.png").texts, QStringList{"shots/a.png"});
+    QCOMPARE(parsed("replay \"logs/a b.log\"").kind, Kind::Replay);
+    QCOMPARE(parsed("replay \"logs/a b.log\"").texts, QStringList{"logs/a b.log"});
 }
 
 void TestScenarioParser::malformedLines_data()
@@ -408,6 +410,8 @@ void TestScenarioParser::malformedLines_data()
     QTest::newRow("down state") << "expect down x 2" << "state 2 is not one of";
     QTest::newRow("drop what") << "drop rows" << "is not one of frames";
     QTest::newRow("screenshot empty") << "screenshot \"\"" << "empty file name";
+    QTest::newRow("replay without file") << "replay" << "file missing";
+    QTest::newRow("replay two files") << "replay a.log b.log" << "unexpected b.log at the end";
     QTest::newRow("box state") << "box maybe" << "is not one of on";
     QTest::newRow("box delay negative") << "box delay -5" << "outside 0..";
     QTest::newRow("box delay missing") << "box delay" << "milliseconds missing";

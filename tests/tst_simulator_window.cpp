@@ -281,7 +281,7 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
     EventPump::settle();
     QCOMPARE(frames->topLevelItemCount(), before + 1);
     const QStringList row = lastRow(frames);
-    QCOMPARE(row.mid(1), (QStringList{"2E A8 02 01 0D 47", "2E", "A8"}));
+    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "unknown frame (no catalogue)"}));
     QVERIFY(row.at(0).contains('.'));
 
     // The command line runs any scenario command.
@@ -299,7 +299,7 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
         line->setText(QLatin1String(command));
         QTest::keyClick(line, Qt::Key_Return);
     }
-    QCOMPARE(lastRow(frames).mid(1), (QStringList{"FD 06 90 7E 00 01 14", "FD", "90"}));
+    QCOMPARE(lastRow(frames).mid(1, 4), (QStringList{"TX", "FD 06 90 7E 00 01 14", "FD", "90"}));
 }
 
 void TestSimulatorWindow::protocolChangeReopensViews()

@@ -1,0 +1,250 @@
+#include "framelog.h"
+
+#include "canobj.h"
+#include "scenario.h"
+#include "simulatorhost.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QStringList>
+
+namespace {
+
+const QString ProtocolComment = QStringLiteral("# protocol ");
+
+QString seconds(qint64 ms)
+{
+    return QStringLiteral("%1.%2").arg(ms / 1000, 9).arg(ms % 1000, 3, 10, QLatin1Char('0'));
+}
+
+bool hexByte(QString const &token, char *byte)
+{
+    if (token.size() != 2)
+        return false;
+    bool ok = false;
+    const int value = token.toInt(&ok, 16);
+    if (ok)
+        *byte = char(value);
+    return ok;
+}
+
+// "28:106" into the protocol and the offset.
+bool place(QString const &token, int *bufferId, int *offset)
+{
+    const int colon = token.indexOf(QLatin1Char(':'));
+    if (colon < 1)
+        return false;
+    bool idOk = false, offsetOk = false;
+    *bufferId = token.leftRef(colon).toInt(&idOk);
+    *offset = token.midRef(colon + 1).toInt(&offsetOk);
+    return idOk && offsetOk && *bufferId >= 0 && *offset >= 0;
+}
+
+} // namespace
+
+FrameLog::FrameLog(QObject *parent)
+    : QObject(parent)
+{
+}
+
+void FrameLog::attach(SimulatorHost &host)
+{
+    DecoderBox *box = &host.box();
+    connect(&host, &SimulatorHost::frameSent, this, [this, box](qint64 ms, QByteArray const &frame) {
+        Entry entry;
+        entry.ms = ms;
+        entry.protocolId = CanObj::id();
+        entry.frame = frame;
+        entry.meaning = box->describe(frame, entry.protocolId);
+        append(entry);
+    });
+    SimulatorHost *source = &host;
+    connect(box, &DecoderBox::answered, this,
+            [this, source](QByteArray const &frame, QList<DecoderBox::WrittenByte> const &written) {
+        Entry entry;
+        entry.ms = source->elapsed();
+        entry.direction = Rx;
+        entry.frame = frame;
+        entry.protocolId = CanObj::id();
+        entry.written = written;
+        entry.meaning = QStringLiteral("dataChanged()");
+        append(entry);
+    });
+}
+
+QList<FrameLog::Entry> const &FrameLog::entries() const
+{
+    return m_entries;
+}
+
+void FrameLog::append(Entry const &entry)
+{
+    m_entries.append(entry);
+    if (m_entries.size() > MaxEntries)
+        m_entries.removeFirst();
+    emit appended(entry);
+}
+
+void FrameLog::clear()
+{
+    m_entries.clear();
+    emit cleared();
+}
+
+QString FrameLog::bytesText(Entry const &entry)
+{
+    if (entry.direction == Tx)
+        return Scenario::hex(entry.frame);
+    QStringList parts;
+    // Bytes that follow each other in one buffer make one run.
+    for (int i = 0; i < entry.written.size(); ++i) {
+        DecoderBox::WrittenByte const &byte = entry.written.at(i);
+        const bool continues = i > 0 && entry.written.at(i - 1).bufferId == byte.bufferId
+                && entry.written.at(i - 1).offset + 1 == byte.offset;
+        if (!continues)
+            parts << QStringLiteral("%1:%2").arg(byte.bufferId).arg(byte.offset);
+        parts << QStringLiteral("%1").arg(byte.value, 2, 16, QLatin1Char('0')).toUpper();
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
+QString FrameLog::timeText(qint64 ms)
+{
+    return QStringLiteral("%1.%2").arg(ms / 1000).arg(ms % 1000, 3, 10, QLatin1Char('0'));
+}
+
+QString FrameLog::line(Entry const &entry)
+{
+    QString text = seconds(entry.ms) + (entry.direction == Tx ? QStringLiteral(" TX") : QStringLiteral(" RX"));
+    const QString bytes = bytesText(entry);
+    if (!bytes.isEmpty())
+        text += QLatin1Char(' ') + bytes;
+    if (!entry.meaning.isEmpty())
+        text += QStringLiteral("  # ") + entry.meaning;
+    return text;
+}
+
+bool FrameLog::parseLine(QString const &text, int protocolId, Entry *entry, QString *error)
+{
+    const int hash = text.indexOf(QLatin1Char('#'));
+    const QStringList tokens = (hash < 0 ? text : text.left(hash)).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    Entry parsed;
+    parsed.protocolId = protocolId;
+    if (hash >= 0)
+        parsed.meaning = text.mid(hash + 1).trimmed();
+    if (tokens.size() < 2) {
+        *error = QStringLiteral("a time and TX or RX missing");
+        return false;
+    }
+    bool ok = false;
+    const double time = tokens.at(0).toDouble(&ok);
+    if (!ok || time < 0) {
+        *error = QStringLiteral("time %1 is not a number of seconds").arg(tokens.at(0));
+        return false;
+    }
+    parsed.ms = qRound64(time * 1000);
+    if (tokens.at(1) == QLatin1String("TX")) {
+        for (int i = 2; i < tokens.size(); ++i) {
+            char byte;
+            if (!hexByte(tokens.at(i), &byte)) {
+                *error = QStringLiteral("%1 is not a byte in hex").arg(tokens.at(i));
+                return false;
+            }
+            parsed.frame.append(byte);
+        }
+    } else if (tokens.at(1) == QLatin1String("RX")) {
+        parsed.direction = Rx;
+        int bufferId = -1, offset = 0;
+        for (int i = 2; i < tokens.size(); ++i) {
+            char byte;
+            if (place(tokens.at(i), &bufferId, &offset))
+                continue;
+            if (bufferId < 0 || !hexByte(tokens.at(i), &byte)) {
+                *error = QStringLiteral("%1 is neither PROTOCOL:OFFSET nor a byte in hex after one")
+                             .arg(tokens.at(i));
+                return false;
+            }
+            parsed.written.append(DecoderBox::WrittenByte{bufferId, offset++, quint8(byte)});
+        }
+    } else {
+        *error = QStringLiteral("direction %1 is neither TX nor RX").arg(tokens.at(1));
+        return false;
+    }
+    *entry = parsed;
+    return true;
+}
+
+QString FrameLog::text(QList<Entry> const &entries)
+{
+    QString text = QStringLiteral("# headunit-sim frame log: seconds, TX (plug-in to decoder box) or RX "
+                                  "(the box's answer: PROTOCOL:OFFSET and the bytes written), bytes in hex\n");
+    int protocolId = -1;
+    for (Entry const &entry : entries) {
+        if (entry.protocolId != protocolId) {
+            protocolId = entry.protocolId;
+            text += ProtocolComment + QString::number(protocolId) + QLatin1Char('\n');
+        }
+        text += line(entry) + QLatin1Char('\n');
+    }
+    return text;
+}
+
+bool FrameLog::parse(QString const &file, QString const &text, QList<Entry> *entries, QString *error)
+{
+    entries->clear();
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    int protocolId = 0;
+    for (int i = 0; i < lines.size(); ++i) {
+        const QString line = lines.at(i).trimmed();
+        if (line.isEmpty())
+            continue;
+        if (line.startsWith(QLatin1Char('#'))) {
+            bool ok = false;
+            const int id = line.midRef(ProtocolComment.size()).toInt(&ok);
+            if (line.startsWith(ProtocolComment) && ok)
+                protocolId = id;
+            continue;
+        }
+        Entry entry;
+        QString reason;
+        if (!parseLine(line, protocolId, &entry, &reason)) {
+            *error = QStringLiteral("%1:%2: %3").arg(file).arg(i + 1).arg(reason);
+            return false;
+        }
+        entries->append(entry);
+    }
+    return true;
+}
+
+bool FrameLog::save(QString const &file, QString *error) const
+{
+    QSaveFile output(file);
+    if (!output.open(QIODevice::WriteOnly | QIODevice::Text)
+            || output.write(text(m_entries).toUtf8()) < 0 || !output.commit()) {
+        *error = QStringLiteral("%1: can't write the frame log: %2").arg(file, output.errorString());
+        return false;
+    }
+    return true;
+}
+
+bool FrameLog::load(QString const &file, QList<Entry> *entries, QString *error)
+{
+    QFile input(file);
+    if (!input.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        *error = QStringLiteral("%1: can't read the frame log: %2").arg(file, input.errorString());
+        return false;
+    }
+    return parse(file, QString::fromUtf8(input.readAll()), entries, error);
+}
+
+int FrameLog::replay(DecoderBox &box, QList<Entry> const &entries)
+{
+    int count = 0;
+    for (Entry const &entry : entries) {
+        if (entry.direction != Tx)
+            continue;
+        box.receive(entry.frame);
+        ++count;
+    }
+    return count;
+}
