@@ -281,7 +281,8 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
     EventPump::settle();
     QCOMPARE(frames->topLevelItemCount(), before + 1);
     const QStringList row = lastRow(frames);
-    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "unknown frame (no catalogue)"}));
+    // With the catalogue, what the frame means: the page, the row, the value.
+    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "28_2 \"Treble\" -> 13"}));
     QVERIFY(row.at(0).contains('.'));
 
     // The command line runs any scenario command.
