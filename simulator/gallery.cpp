@@ -22,7 +22,7 @@ namespace Gallery {
 namespace {
 
 // A page longer than this many screens is cut there; the longest page of
-// the catalogue takes a dozen.
+// the catalogue, 28_3, takes 24.
 constexpr int MaxScreens = 40;
 
 // One line of the scenario language, run at once.
