@@ -1,5 +1,6 @@
 #include "tirepressure.h"
 
+#include "appframework.h"
 #include "customimagebutton.h"
 #include "customimagewidget.h"
 #include "imagepaths.h"
@@ -25,6 +26,11 @@ TirePressure::TirePressure(QWidget *parent)
                                    QString(), QString(), true, 0);
     label->setStyleSheet(QString::fromLatin1("color:white;font:%1px;").arg(26));
     label->setText(tr("When the pressure of all 4 tires are checked correctly and there is no problem, please click Reset"));
+    // The hint is longer than the screen is wide at its size: it wraps,
+    // centred, within seven eighths of the panel's width.
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFixedWidth(zorvappframework::UIManager::getSystemViewRect().width() * 7 / 8);
     resetButton->setText(tr("Reset"), Qt::AlignCenter, Qt::white, 0.43f, false);
     connect(resetButton, SIGNAL(clicked()), this, SIGNAL(ClickedSlots()));
 

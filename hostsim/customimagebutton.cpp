@@ -2,6 +2,7 @@
 
 #include "hostimages.h"
 
+#include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
 
@@ -140,6 +141,15 @@ void CustomImageButton::paintText(QPainter &painter)
     font.setFamily(QStringLiteral("DejaVu Sans"));
     font.setPixelSize(qMax(1, qRound(height() * d->size)));
     font.setBold(d->bold);
+    // The size is a share of the button's height; a text that this makes
+    // taller or wider than the area within the margins is drawn smaller,
+    // so that it stays on the button's picture.
+    for (;;) {
+        const QRect needed = QFontMetrics(font).boundingRect(area, int(d->alignment), d->text);
+        if (font.pixelSize() <= 1 || (needed.width() <= area.width() && needed.height() <= area.height()))
+            break;
+        font.setPixelSize(font.pixelSize() - 1);
+    }
     painter.setFont(font);
     painter.setPen(d->color);
     painter.drawText(area, d->alignment, d->text);

@@ -11,6 +11,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QTime>
 #include <QList>
 #include <QPair>
 #include <QPixmap>
@@ -118,6 +119,10 @@ void setSetting(QString const &key, QVariant const &value, QString const &group 
 // The head unit's clock follows the system clock, shifted so that it reads
 // the given time now. An invalid time returns it to the system clock.
 void setDateTime(QDateTime const &now);
+// A clock that stands still at the given time of day, for pictures that two
+// runs must give alike; an invalid time sets it going again. It belongs to
+// the run, not to the car: reset() leaves it as it is.
+void setFixedClock(QTime const &time);
 
 // How often the touch sound played.
 int touchSounds();

@@ -73,6 +73,15 @@ void setSetting(QString const &key, QVariant const &value, QString const &group)
     DataSaveControl::saveSettingData(key, value, group);
 }
 
+namespace {
+QTime fixedClock;
+} // namespace
+
+void setFixedClock(QTime const &time)
+{
+    fixedClock = time;
+}
+
 void setDateTime(QDateTime const &now)
 {
     services().clockOffsetMs = now.isValid()
@@ -194,7 +203,9 @@ DateTimeCtrl *DateTimeCtrl::getInstance()
 void DateTimeCtrl::getCurrentDateTime(int &year, int &month, int &day,
                                       int &hour, int &minute, int &second) const
 {
-    const QDateTime now = QDateTime::currentDateTime().addMSecs(services().clockOffsetMs);
+    QDateTime now = QDateTime::currentDateTime().addMSecs(services().clockOffsetMs);
+    if (HostSim::fixedClock.isValid())
+        now.setTime(HostSim::fixedClock);
     year = now.date().year();
     month = now.date().month();
     day = now.date().day();

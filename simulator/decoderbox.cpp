@@ -51,6 +51,31 @@ bool parseFrame(QString const &text, QByteArray *bytes, QByteArray *care)
     return bytes->size() >= 2;
 }
 
+// What the car reports in a text row, by what the row's title asks for: the
+// box sends ready texts with their units. The first title word that matches
+// decides; a plain number for the rest.
+QString sampleText(QString const &title)
+{
+    static const struct
+    {
+        char const *word;
+        char const *text;
+    } samples[] = {
+        {"frequency", "98.5 MHz"},     {"power consumption", "16.4 kWh/100km"},
+        {"consumption", "6.8 L/100km"}, {"speed", "46 km/h"},
+        {"time", "01:25"},              {"range", "412 km"},
+        {"mileage", "1268 km"},         {"distance", "38 km"},
+        {"temperature", "21.5 \u2103"}, {"pressure", "2.4 bar"},
+        {"voltage", "12.6 V"},          {"oil", "82 %"},
+        {"version", "V1.02"},           {"name", "Demo car"},
+    };
+    for (auto const &sample : samples) {
+        if (title.contains(QLatin1String(sample.word), Qt::CaseInsensitive))
+            return QString::fromUtf8(sample.text);
+    }
+    return QStringLiteral("1234");
+}
+
 } // namespace
 
 DecoderBox::DecoderBox(QObject *parent)
@@ -70,8 +95,15 @@ bool DecoderBox::load(QString const &file, QString *error)
     }
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(input.readAll(), &parseError);
+    if (parseError.error != QJsonParseError::NoError) {
+        *error = QStringLiteral("%1: not a catalogue (%2 at offset %3)")
+                     .arg(file, parseError.errorString())
+                     .arg(parseError.offset);
+        load(QJsonObject(), nullptr);
+        return false;
+    }
     if (!document.isObject()) {
-        *error = QStringLiteral("%1: not a catalogue (%2)").arg(file, parseError.errorString());
+        *error = QStringLiteral("%1: not a catalogue (no JSON object)").arg(file);
         load(QJsonObject(), nullptr);
         return false;
     }
@@ -106,6 +138,10 @@ bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
         for (QJsonValue const &p : familyJson.value(QLatin1String("pages")).toArray()) {
             const QJsonObject page = p.toObject();
             const int bufferId = page.value(QLatin1String("buffer")).toInt();
+            family.titles.append(page.value(QLatin1String("title")).toString());
+            family.rows += page.value(QLatin1String("rows")).toArray().size();
+            family.emptyPages.append(page.value(QLatin1String("rows")).toArray().isEmpty()
+                                     && !page.value(QLatin1String("ownWidgets")).toBool());
             // Pages count from 1, as the gallery names them.
             const QString pageName = QStringLiteral("%1_%2").arg(familyNumber)
                                          .arg(page.value(QLatin1String("index")).toInt() + 1);
@@ -128,7 +164,7 @@ bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
                 if (!sample.isEmpty())
                     family.samples.append(Sample{bufferId, writesOf(sample.value(QLatin1String("writes")).toArray()), -1, QString()});
                 else if (text)
-                    family.samples.append(Sample{bufferId, {}, textOffset, row.value(QLatin1String("title")).toString()});
+                    family.samples.append(Sample{bufferId, {}, textOffset, sampleText(row.value(QLatin1String("title")).toString())});
                 if (text && !bufferId && !family.textOffsets.contains(textOffset))
                     family.textOffsets.append(textOffset);
                 if (!row.value(QLatin1String("adjustable")).toBool())
@@ -211,6 +247,40 @@ bool DecoderBox::writeSamples(int protocolId) const
             buffer.setText(sample.textOffset, sample.text);
     }
     return true;
+}
+
+QStringList DecoderBox::pageTitles(int protocolId) const
+{
+    return m_familyOfId.contains(protocolId) ? m_families.at(m_familyOfId.value(protocolId)).titles : QStringList();
+}
+
+bool DecoderBox::hasOnlyEmptyPages(int protocolId) const
+{
+    if (!m_familyOfId.contains(protocolId))
+        return false;
+    Family const &family = m_families.at(m_familyOfId.value(protocolId));
+    return !family.emptyPages.isEmpty() && !family.emptyPages.contains(false);
+}
+
+bool DecoderBox::isEmptyPage(int protocolId, int page) const
+{
+    return m_familyOfId.contains(protocolId) && m_families.at(m_familyOfId.value(protocolId)).emptyPages.value(page);
+}
+
+int DecoderBox::rowCount(int protocolId) const
+{
+    return m_familyOfId.contains(protocolId) ? m_families.at(m_familyOfId.value(protocolId)).rows : 0;
+}
+
+QString DecoderBox::familyName(int protocolId) const
+{
+    // Two titles tell most families apart; a third would crowd the picker.
+    constexpr int Named = 2;
+    const QStringList titles = pageTitles(protocolId);
+    QString name = QStringList(titles.mid(0, Named)).join(QStringLiteral(", "));
+    if (titles.size() > Named)
+        name += QStringLiteral(", ...");
+    return name;
 }
 
 QList<DecoderBox::Answer> DecoderBox::matches(Family const &family, QByteArray const &bytes) const

@@ -16,6 +16,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 class DecoderBox : public QObject
 {
@@ -58,6 +59,22 @@ public:
     // buffer. False for a protocol the catalogue doesn't know.
     bool writeSamples(int protocolId) const;
 
+    // The titles of a protocol's pages as the catalogue has them, and how
+    // many rows its pages hold in all (0 for a family whose pages draw
+    // their own widgets or hold no rows). Empty and 0 for a protocol the
+    // catalogue doesn't know.
+    QStringList pageTitles(int protocolId) const;
+    int rowCount(int protocolId) const;
+    // Every page of the protocol's family opens empty: the catalogue gives
+    // them titles and no rows, and none draws widgets of its own.
+    bool hasOnlyEmptyPages(int protocolId) const;
+    // The page (from 0) of the protocol's family has no rows and draws no
+    // widgets of its own.
+    bool isEmptyPage(int protocolId, int page) const;
+    // A protocol's family as a person knows it: the titles of its first
+    // pages, "Amplifier, Vehicle settings, ..."; empty for a protocol the
+    // catalogue doesn't know.
+    QString familyName(int protocolId) const;
     // What a frame means to the box under the protocol: the page, the row's
     // title and the value that the frame sets (28_2 "Treble" -> 8), a
     // request, or "unknown frame" with the reason the box refuses it. Where
@@ -120,6 +137,9 @@ private:
         // Answers by their first three bytes.
         QHash<QByteArray, QList<int>> byPrefix;
         QList<Sample> samples;
+        QStringList titles;
+        int rows = 0;
+        QList<bool> emptyPages;
         // Text fields of the family's own buffer.
         QList<int> textOffsets;
     };

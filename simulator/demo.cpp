@@ -1,5 +1,8 @@
 #include "demo.h"
 
+#include "hostsim.h"
+#include "simulatorhost.h"
+
 #include <QFile>
 
 namespace Demo {
@@ -22,6 +25,28 @@ Scenario::Result run(Scenario::Runner &runner, QString const &resource)
 }
 
 } // namespace
+
+void selectProtocol(SimulatorHost &host, int protocolId)
+{
+    HostSim::setProtocolId(protocolId);
+    host.call(QStringLiteral("setProtocolId"), {protocolId});
+}
+
+Scenario::Result startCar(SimulatorHost &host, int protocolId)
+{
+    if (protocolId == ProtocolId)
+        return loadData(host);
+    Scenario::Result result = writeSamples(host, protocolId);
+    selectProtocol(host, protocolId);
+    return result;
+}
+
+Scenario::Result writeSamples(SimulatorHost &host, int protocolId)
+{
+    host.box().writeSamples(protocolId);
+    Scenario::Runner runner(host);
+    return run(runner, QStringLiteral(":/demo/sample-data.scn"));
+}
 
 Scenario::Result loadData(SimulatorHost &host)
 {

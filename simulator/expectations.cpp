@@ -251,11 +251,14 @@ bool Expectations::checkScreen(Command const &c, QString *failure)
     switch (c.kind) {
     case Kind::ExpectShown: case Kind::ExpectHidden: {
         QWidget *widget = probe.part(c.name);
-        const bool shown = ScreenProbe::isShown(widget);
+        const bool shown = probe.isOnScreen(widget);
         if (shown == (c.kind == Kind::ExpectShown))
             return true;
         return fail(failure, QStringLiteral("%1 %2").arg(shown ? QStringLiteral("hidden") : QStringLiteral("shown"), c.name),
-                    shown ? QStringLiteral("shown") : widget ? QStringLiteral("hidden") : QStringLiteral("missing"));
+                    shown ? QStringLiteral("shown")
+                          : !widget ? QStringLiteral("missing")
+                          : ScreenProbe::isShown(widget) ? QStringLiteral("covered by another view")
+                                                         : QStringLiteral("hidden"));
     }
     case Kind::ExpectLabel: {
         QWidget *widget = probe.findWidget(c.name);

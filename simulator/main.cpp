@@ -14,6 +14,7 @@
 #include "scenariorunner.h"
 #include "simulatorhost.h"
 
+#include "catalogue.h"
 #include "hostsim.h"
 
 #include <QApplication>
@@ -21,7 +22,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QScreen>
 #include <QTemporaryDir>
+#include <QTime>
 #include <QTimer>
 
 #include <cstdio>
@@ -51,12 +54,20 @@ char const Usage[] =
     "  --window-screenshot FILE  show the window, run the scenario if one is\n"
     "                      given, save the whole window as PNG and quit\n"
     "  --demo DIR          run the demo tour headless, one PNG per step into DIR\n"
-    "  --gallery DIR       open every page of every family with demo data, one PNG\n"
-    "                      per page and an index.html into DIR, headless\n"
+    "  --gallery DIR       open every page of every family with sample data, one\n"
+    "                      PNG per screen of each page and an index.html into\n"
+    "                      DIR, headless\n"
     "  --box-coverage      print how many adjustable rows the decoder box answers\n"
     "  --catalogue FILE    the decoder box's catalogue (default: the build's,\n"
     "                      or $CARCONTROL_CATALOGUE_FILE)\n"
-    "  --protocol N        start the window on protocol N (default 28)\n"
+    "  --protocol N        start on protocol N (default 28): the window and\n"
+    "                      --screenshot with the catalogue's sample data, a\n"
+    "                      scenario with nothing else (its protocol line wins)\n"
+    "  --clock HH:MM       the head unit's clock stands at this time (--demo and\n"
+    "                      --gallery: 10:08 unless given)\n"
+    "  --list-protocols    print every protocol id with its family's first pages\n"
+    "  --zoom PERCENT      the window's screen at 50 to 100 per cent of its size\n"
+    "                      (default: what fits the desktop)\n"
     "  --language LOCALE   the head unit's locale, e.g. zh_CN: the plug-in shows\n"
     "                      its texts in that language where it has them\n"
     "  --plugin FILE       the car control plug-in (default:\n"
@@ -65,6 +76,7 @@ char const Usage[] =
     "                      beside the car control plug-in)\n"
     "  --platform NAME     Qt platform plug-in, e.g. offscreen\n"
     "  --verbose           print the plug-in's debug lines and each scenario line\n"
+    "  --version           the simulator's version\n"
     "  --help              this text\n";
 
 struct Options
@@ -83,6 +95,11 @@ struct Options
     QString platform;
     QString language;
     int protocol = Demo::ProtocolId;
+    bool protocolGiven = false;
+    QTime clock;
+    int zoom = 0;
+    bool listProtocols = false;
+    bool version = false;
     bool window = false;
     bool verbose = false;
     bool help = false;
@@ -150,10 +167,34 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
             if (!value(&text))
                 return false;
             options->protocol = text.toInt(&ok, 0);
-            if (!ok) {
-                *error = QStringLiteral("--protocol %1 is not a number").arg(text);
+            if (!ok || options->protocol < 0) {
+                *error = QStringLiteral("--protocol %1 is not a protocol id").arg(text);
                 return false;
             }
+            options->protocolGiven = true;
+        } else if (arg == QLatin1String("--clock")) {
+            QString text;
+            if (!value(&text))
+                return false;
+            options->clock = QTime::fromString(text, QStringLiteral("HH:mm"));
+            if (!options->clock.isValid()) {
+                *error = QStringLiteral("--clock %1 is no time of the form HH:MM").arg(text);
+                return false;
+            }
+        } else if (arg == QLatin1String("--zoom")) {
+            QString text;
+            bool ok = false;
+            if (!value(&text))
+                return false;
+            options->zoom = text.toInt(&ok);
+            if (!ok || options->zoom < 50 || options->zoom > 100) {
+                *error = QStringLiteral("--zoom %1 is not a percentage from 50 to 100").arg(text);
+                return false;
+            }
+        } else if (arg == QLatin1String("--list-protocols")) {
+            options->listProtocols = true;
+        } else if (arg == QLatin1String("--version")) {
+            options->version = true;
         } else if (arg == QLatin1String("--window")) {
             options->window = true;
         } else if (arg == QLatin1String("--verbose")) {
@@ -173,6 +214,19 @@ bool parseOptions(int argc, char **argv, Options *options, QString *error)
                                                  || !options->demoDirectory.isEmpty())) {
         *error = QStringLiteral("--gallery runs on its own, without --script, --window or --demo");
         return false;
+    }
+    // The gallery opens every family, the demo tour is the demo car's; the
+    // others look at no protocol.
+    if (options->protocolGiven) {
+        const QString other = !options->galleryDirectory.isEmpty() ? QStringLiteral("--gallery")
+                : !options->demoDirectory.isEmpty()                ? QStringLiteral("--demo")
+                : options->boxCoverage                             ? QStringLiteral("--box-coverage")
+                : options->listProtocols                           ? QStringLiteral("--list-protocols")
+                                                                   : QString();
+        if (!other.isEmpty()) {
+            *error = QStringLiteral("--protocol has no meaning with %1").arg(other);
+            return false;
+        }
     }
     if ((!options->record.isEmpty() || !options->frames.isEmpty())
             && (!options->demoDirectory.isEmpty() || !options->galleryDirectory.isEmpty())) {
@@ -241,10 +295,22 @@ int main(int argc, char *argv[])
         std::fputs(Usage, stdout);
         return 0;
     }
+    if (options.version) {
+        std::printf("headunit-sim %s (Qt %s)\n", SIMULATOR_VERSION, qVersion());
+        return 0;
+    }
+    // The folders of the pictures first: nothing runs for pictures that
+    // can't be written.
+    for (QString const &folder : {options.demoDirectory, options.galleryDirectory}) {
+        if (!folder.isEmpty() && !Scenario::makeFolder(folder, &error)) {
+            printError(error);
+            return StartFailed;
+        }
+    }
 
     const bool headless = !options.window
             && (!options.script.isEmpty() || !options.demoDirectory.isEmpty() || !options.screenshot.isEmpty()
-                || !options.galleryDirectory.isEmpty() || options.boxCoverage);
+                || !options.galleryDirectory.isEmpty() || options.boxCoverage || options.listProtocols);
     if (!options.platform.isEmpty())
         qputenv("QT_QPA_PLATFORM", options.platform.toLocal8Bit());
     else if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -262,7 +328,10 @@ int main(int argc, char *argv[])
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime->path()));
     }
 
-    QApplication app(argc, argv);
+    // The options are the simulator's alone: Qt would take --plugin and
+    // others for its own.
+    int appArgc = 1;
+    QApplication app(appArgc, argv);
     QApplication::setApplicationName(QStringLiteral("headunit-sim"));
     // The head unit's locale, before the plug-in's root (which loads its
     // translation) is made.
@@ -293,8 +362,28 @@ int main(int argc, char *argv[])
                     host.box().adjustableRows());
         return 0;
     }
-    if (!boxReady && (!headless || !options.galleryDirectory.isEmpty()))
+    if (options.listProtocols) {
+        for (int id : Catalogue::protocolIds()) {
+            const QStringList titles = host.box().pageTitles(id);
+            std::printf("%3d  family %3d  %s\n", id, Catalogue::familyOf(id),
+                        qPrintable(titles.isEmpty() ? QString() : titles.join(QStringLiteral(", "))));
+        }
+        if (!boxReady)
+            printError(QStringLiteral("no page titles without the catalogue: %1").arg(boxError));
+        return 0;
+    }
+    // The gallery's pictures show the catalogue's sample data: without it
+    // they would show zeroed pages.
+    if (!boxReady && !options.galleryDirectory.isEmpty()) {
+        printError(QStringLiteral("no gallery without the catalogue: %1").arg(boxError));
+        return StartFailed;
+    }
+    if (!boxReady && !headless)
         printError(QStringLiteral("the decoder box stays off: %1").arg(boxError));
+    const QTime clock = options.clock.isValid() || (options.demoDirectory.isEmpty() && options.galleryDirectory.isEmpty())
+            ? options.clock
+            : QTime::fromString(QLatin1String(Demo::ClockTime), QStringLiteral("HH:mm"));
+    HostSim::setFixedClock(clock);
     const QString plugin = options.plugin.isEmpty() ? SimulatorHost::defaultPluginFile() : options.plugin;
     // A reverse plug-in named on the command line replaces the host's search:
     // when it can't be loaded, reversing shows no picture at all.
@@ -326,10 +415,12 @@ int main(int argc, char *argv[])
     if (!options.galleryDirectory.isEmpty()) {
         HostSim::screen()->show();
         const Scenario::Result result = Gallery::write(host, options.galleryDirectory);
-        std::printf("%d pages into %s\n", int(result.screenshots.size()),
-                    qPrintable(QDir(options.galleryDirectory).filePath(QStringLiteral("index.html"))));
-        if (result.status != Scenario::Passed)
+        if (result.status != Scenario::Passed) {
             printError(result.message);
+            return result.status;
+        }
+        std::printf("%d pictures into %s\n", int(result.screenshots.size()),
+                    qPrintable(QDir(options.galleryDirectory).filePath(QStringLiteral("index.html"))));
         return result.status;
     }
 
@@ -358,8 +449,14 @@ int main(int argc, char *argv[])
         }
         int status = Scenario::Passed;
         if (options.script.isEmpty()) {
-            Demo::loadData(host);
+            const Scenario::Result start = Demo::startCar(host, options.protocol);
+            if (start.status != Scenario::Passed) {
+                printError(start.message);
+                return StartFailed;
+            }
         } else {
+            if (options.protocolGiven)
+                Demo::selectProtocol(host, options.protocol);
             Scenario::Runner runner(host);
             runner.setTrace(options.verbose);
             const Scenario::Result result = runner.run(script);
@@ -377,7 +474,12 @@ int main(int argc, char *argv[])
         return status;
     }
 
-    MainWindow window(host);
+    // A desktop smaller than the window at its real size gets the screen
+    // scaled; a headless run keeps it at its size.
+    int zoom = options.zoom;
+    if (!zoom && QGuiApplication::platformName() != QLatin1String("offscreen") && QGuiApplication::primaryScreen())
+        zoom = MainWindow::fittingZoom(QGuiApplication::primaryScreen()->availableGeometry().size());
+    MainWindow window(host, zoom ? zoom : 100);
     if (options.script.isEmpty())
         window.startDemoCar(options.protocol);
     // In the window the car answers: the box is on.
@@ -389,12 +491,15 @@ int main(int argc, char *argv[])
     }
     window.show();
     int status = Scenario::Passed;
+    if (!options.script.isEmpty() && options.protocolGiven)
+        Demo::selectProtocol(host, options.protocol);
     QTimer::singleShot(0, &window, [&] {
         if (!options.script.isEmpty())
             status = window.runScenario(script);
         if (!options.windowScreenshot.isEmpty()) {
-            if (!window.saveWindow(options.windowScreenshot)) {
-                printError(QStringLiteral("%1: can't write the picture").arg(options.windowScreenshot));
+            QString saveError;
+            if (!window.saveWindow(options.windowScreenshot, &saveError)) {
+                printError(saveError);
                 status = Scenario::Failed;
             }
             window.close();

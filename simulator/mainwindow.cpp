@@ -9,6 +9,8 @@
 #include "panels.h"
 #include "simulatorhost.h"
 
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -24,6 +26,11 @@
 namespace {
 
 constexpr int PanelWidth = 540;
+constexpr int MinZoom = 50;
+// What the window takes beside the screen: its margins, the row of keys,
+// the status bar and a title bar's worth for the desktop's frame.
+constexpr int WindowExtraWidth = 40;
+constexpr int WindowExtraHeight = 130;
 // How often the window title follows the protocol.
 constexpr int TitleMs = 500;
 
@@ -47,10 +54,11 @@ QWidget *scrolled(QWidget *content)
 
 } // namespace
 
-MainWindow::MainWindow(SimulatorHost &host, QWidget *parent)
+MainWindow::MainWindow(SimulatorHost &host, int zoom, QWidget *parent)
     : QMainWindow(parent)
     , m_host(host)
     , m_runner(host)
+    , m_zoom(qBound(MinZoom, zoom, 100))
 {
     setWindowTitle(tr("Head-unit simulator"));
     auto *central = new QWidget(this);
@@ -92,16 +100,57 @@ MainWindow::MainWindow(SimulatorHost &host, QWidget *parent)
     startTimer(TitleMs);
 }
 
-// The head unit's screen, at its real size.
+MainWindow::~MainWindow()
+{
+    QWidget *screen = m_host.screen();
+    if (screen->parentWidget() == m_screenFrame) {
+        screen->hide();
+        screen->setParent(nullptr);
+    }
+}
+
+int MainWindow::fittingZoom(QSize const &desktop)
+{
+    const QSize screen = HostSim::screenSize();
+    int zoom = 100;
+    while (zoom > MinZoom
+           && (screen.width() * zoom / 100 + PanelWidth + WindowExtraWidth > desktop.width()
+               || screen.height() * zoom / 100 + WindowExtraHeight > desktop.height()))
+        zoom -= 5;
+    return zoom;
+}
+
+int MainWindow::zoom() const
+{
+    return m_zoom;
+}
+
+// The head unit's screen, at its real size or drawn scaled by the zoom. A
+// scaled screen lies in a graphics view, which hands taps and keys on to
+// its widgets at their own coordinates.
 QWidget *MainWindow::makeScreen()
 {
     QWidget *screen = m_host.screen();
-    auto *frame = new QWidget;
-    frame->setFixedSize(screen->size());
-    screen->setParent(frame);
+    m_screenFrame = new QWidget;
+    m_screenFrame->setFixedSize(screen->size());
+    screen->setParent(m_screenFrame);
     screen->move(0, 0);
     screen->show();
-    return frame;
+    if (m_zoom == 100)
+        return m_screenFrame;
+    auto *scene = new QGraphicsScene(this);
+    scene->addWidget(m_screenFrame);
+    auto *view = new QGraphicsView(scene);
+    view->setObjectName(QStringLiteral("zoomedScreen"));
+    view->setFrameShape(QFrame::NoFrame);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    view->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    view->scale(m_zoom / 100.0, m_zoom / 100.0);
+    view->setFixedSize(screen->size() * m_zoom / 100);
+    view->setSceneRect(QRectF(QPointF(0, 0), QSizeF(screen->size())));
+    return view;
 }
 
 // The head unit's hardware keys, in a row under the screen as on the
@@ -143,15 +192,9 @@ QWidget *MainWindow::makeCommandLine()
 
 void MainWindow::startDemoCar(int protocolId)
 {
-    if (protocolId == Demo::ProtocolId) {
-        const Scenario::Result result = Demo::loadData(m_host);
-        if (result.status != Scenario::Passed)
-            showStatus(result.message, true);
-    } else {
-        // Other cars show values that the catalogue knows their rows take.
-        m_host.box().writeSamples(protocolId);
-    }
-    m_car->selectProtocol(protocolId);
+    const Scenario::Result result = Demo::startCar(m_host, protocolId);
+    if (result.status != Scenario::Passed)
+        showStatus(result.message, true);
     reloadPanels();
 }
 
@@ -168,9 +211,9 @@ int MainWindow::runScenario(Scenario::Script const &script)
     return result.status;
 }
 
-bool MainWindow::saveWindow(QString const &file)
+bool MainWindow::saveWindow(QString const &file, QString *error)
 {
-    return grab().save(file, "PNG");
+    return Scenario::savePicture(grab(), file, error);
 }
 
 void MainWindow::runCommandLine()
@@ -213,5 +256,6 @@ void MainWindow::timerEvent(QTimerEvent *)
     // A scenario, the command line or the buffer editor may have chosen
     // another protocol.
     m_car->load();
-    setWindowTitle(tr("Head-unit simulator: protocol %1").arg(CanObj::id()));
+    const QString title = tr("Head-unit simulator: protocol %1").arg(CanObj::id());
+    setWindowTitle(m_zoom == 100 ? title : tr("%1 (screen at %2%)").arg(title).arg(m_zoom));
 }

@@ -21,15 +21,25 @@ class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
-    explicit MainWindow(SimulatorHost &host, QWidget *parent = nullptr);
+    // zoom: the head unit's screen in per cent of its real size; below 100
+    // the screen is drawn scaled, and taps and keys reach it all the same.
+    explicit MainWindow(SimulatorHost &host, int zoom = 100, QWidget *parent = nullptr);
+    // The screen stays the host's: the window gives it back.
+    ~MainWindow() override;
+
+    // The largest zoom, in steps of 5 from 100 down to 50, at which the
+    // window fits a desktop of the given size.
+    static int fittingZoom(QSize const &desktop);
+    int zoom() const;
 
     // Selects the protocol; on the demo car's protocol its data come first.
     void startDemoCar(int protocolId);
     // Runs a scenario in the window; the result goes to the status bar and
     // to standard error. Returns the scenario's exit status.
     int runScenario(Scenario::Script const &script);
-    // Saves the whole window as PNG. False when the file can't be written.
-    bool saveWindow(QString const &file);
+    // Saves the whole window as PNG. False, with the path and the reason in
+    // *error, when the file can't be written.
+    bool saveWindow(QString const &file, QString *error);
 
 protected:
     void timerEvent(QTimerEvent *event) override;
@@ -45,6 +55,8 @@ private:
 
     SimulatorHost &m_host;
     Scenario::Runner m_runner;
+    int m_zoom;
+    QWidget *m_screenFrame = nullptr;
     CarPanel *m_car = nullptr;
     ClimateEditor *m_climate = nullptr;
     BodyPanel *m_body = nullptr;

@@ -1,15 +1,19 @@
 #include "panels.h"
 
 #include "airdata.h"
+#include "basebar.h"
 #include "basecontrol.h"
 #include "canobj.h"
 #include "carbodydata.h"
 #include "cardoordata.h"
 #include "catalogue.h"
+#include "demo.h"
+#include "eventpump.h"
 #include "hostsim.h"
 #include "radardata.h"
 #include "simulatorhost.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -70,9 +74,20 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     auto *vehicle = new QGroupBox(tr("Vehicle"), this);
     auto *vehicleForm = new QFormLayout(vehicle);
     m_protocols->addItem(tr("0: no vehicle"), 0);
-    for (int id : Catalogue::protocolIds())
-        m_protocols->addItem(tr("%1: family %2").arg(id).arg(Catalogue::familyOf(id)), id);
+    // Each id by its family's first pages, which tell a person more than
+    // the family's number; the number alone without the catalogue.
+    for (int id : Catalogue::protocolIds()) {
+        const QString name = m_host.box().familyName(id);
+        m_protocols->addItem(name.isEmpty() ? tr("%1: family %2").arg(id).arg(Catalogue::familyOf(id))
+                                            : tr("%1: %2").arg(id).arg(name),
+                             id);
+    }
     m_protocols->setMaxVisibleItems(20);
+    // The names are long: the picker keeps to the panel's width and the
+    // open list shows them whole.
+    m_protocols->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_protocols->setMinimumContentsLength(24);
+    m_protocols->view()->setMinimumWidth(m_protocols->view()->sizeHintForColumn(0));
     vehicleForm->addRow(tr("Protocol"), m_protocols);
     vehicleForm->addRow(tr("Page stack"), m_family);
     vehicleForm->addRow(m_rightDriver);
@@ -151,8 +166,21 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
 
 void CarPanel::selectProtocol(int protocolId)
 {
-    HostSim::setProtocolId(protocolId);
-    m_host.call(QStringLiteral("setProtocolId"), {protocolId});
+    // An extended view picks its pages when it is made: the open ones are
+    // left and opened again, as a person would to see the new car's pages.
+    QStringList reopen;
+    const auto views = m_host.screen()->findChildren<QWidget *>();
+    for (QWidget *view : views) {
+        if (!view->inherits("ExView") || view->isHidden())
+            continue;
+        reopen << (view->objectName() == QLatin1String("exDialogView") ? QStringLiteral("showExViewDialogView")
+                                                                       : QStringLiteral("showExView"));
+        HostSim::pressBarButton(view->findChild<BaseBar *>(QStringLiteral("baseBar")), QStringLiteral("home"));
+    }
+    EventPump::settle();
+    Demo::selectProtocol(m_host, protocolId);
+    for (QString const &operation : qAsConst(reopen))
+        m_host.call(operation);
     showProtocol(protocolId);
 }
 
@@ -177,8 +205,16 @@ void CarPanel::showProtocol(int protocolId)
     }
     m_protocols->setCurrentIndex(index);
     const int family = Catalogue::familyOf(protocolId);
-    m_family->setText(family ? QStringLiteral("CarExView%1").arg(family)
-                             : tr("none: the extended view's list stays empty"));
+    const int pages = m_host.box().pageTitles(protocolId).size();
+    QString text = tr("none: the extended view's list stays empty");
+    if (family && !pages)
+        text = tr("family %1").arg(family);
+    else if (family && !m_host.box().hasOnlyEmptyPages(protocolId))
+        text = pages == 1 ? tr("family %1, 1 page").arg(family) : tr("family %1, %2 pages").arg(family).arg(pages);
+    else if (family)
+        text = pages == 1 ? tr("family %1, 1 page, without rows").arg(family)
+                          : tr("family %1, %2 pages, none with rows").arg(family).arg(pages);
+    m_family->setText(text);
 }
 
 // --- Climate ------------------------------------------------------------------

@@ -8,13 +8,44 @@
 #include "vehiclestate.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPixmap>
+#include <QSaveFile>
 #include <QWidget>
 
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 namespace Scenario {
+
+bool makeFolder(QString const &path, QString *error)
+{
+    std::error_code code;
+    const std::filesystem::path folder(QFile::encodeName(path).constData());
+    std::filesystem::create_directories(folder, code);
+    if (!code && std::filesystem::is_directory(folder, code))
+        return true;
+    *error = QStringLiteral("can't make the folder %1: %2")
+                 .arg(path, code ? QString::fromLocal8Bit(code.message().c_str()) : QStringLiteral("Not a directory"));
+    return false;
+}
+
+bool savePicture(QPixmap const &picture, QString const &path, QString *error)
+{
+    QString folderError;
+    if (!makeFolder(QFileInfo(path).absolutePath(), &folderError)) {
+        *error = QStringLiteral("can't write %1: %2").arg(path, folderError);
+        return false;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, "PNG") || !file.commit()) {
+        *error = QStringLiteral("can't write %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    return true;
+}
 
 Runner::Runner(SimulatorHost &host)
     : m_host(host)
@@ -229,9 +260,9 @@ bool Runner::screenshot(QString const &file, QString *failure)
 {
     const QString path = QFileInfo(file).isAbsolute() || m_outputDirectory.isEmpty()
             ? file : QDir(m_outputDirectory).filePath(file);
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    if (!m_host.screen()->grab().save(path, "PNG")) {
-        *failure = QStringLiteral("expected to write %1 got an error").arg(path);
+    QString error;
+    if (!savePicture(m_host.screen()->grab(), path, &error)) {
+        *failure = error;
         return false;
     }
     m_screenshots << QFileInfo(path).absoluteFilePath();

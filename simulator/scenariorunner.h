@@ -13,9 +13,15 @@
 #include <QString>
 #include <QStringList>
 
+class QPixmap;
 class SimulatorHost;
 
 namespace Scenario {
+
+// The folders and pictures that runs write. False, with the path and the
+// system's reason in *error, when they can't be made.
+bool makeFolder(QString const &path, QString *error);
+bool savePicture(QPixmap const &picture, QString const &path, QString *error);
 
 // The exit status of a scenario run.
 enum Status { Passed = 0, Failed = 1, Malformed = 2 };

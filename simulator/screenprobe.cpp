@@ -225,6 +225,41 @@ bool ScreenProbe::isShown(QWidget const *widget)
     return widget && widget->isVisible();
 }
 
+bool ScreenProbe::isOnScreen(QWidget const *widget) const
+{
+    if (!isShown(widget) || !screen()->isAncestorOf(widget))
+        return false;
+    const QRect area = QRect(widget->mapTo(screen(), QPoint(0, 0)), widget->size()).intersected(screen()->rect());
+    if (area.isEmpty())
+        return false;
+    // What lies higher than the widget: at each step up to the screen, the
+    // visible siblings stacked over the step. A UI level is a clear sheet:
+    // what covers is the views on it.
+    auto covers = [&](QWidget const *over) {
+        return over->isVisible() && !over->testAttribute(Qt::WA_TransparentForMouseEvents)
+            && QRect(over->mapTo(screen(), QPoint(0, 0)), over->size()).contains(area);
+    };
+    for (QWidget const *step = widget; step != screen(); step = step->parentWidget()) {
+        const QObjectList siblings = step->parentWidget()->children();
+        for (int i = siblings.indexOf(const_cast<QWidget *>(step)) + 1; i < siblings.size(); ++i) {
+            QWidget const *over = qobject_cast<QWidget const *>(siblings.at(i));
+            if (!over || over->isWindow())
+                continue;
+            if (!m_levels.contains(const_cast<QWidget *>(over))) {
+                if (covers(over))
+                    return false;
+                continue;
+            }
+            const auto views = over->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+            for (QWidget const *view : views) {
+                if (!view->isWindow() && covers(view))
+                    return false;
+            }
+        }
+    }
+    return true;
+}
+
 bool ScreenProbe::textOf(QWidget const *widget, QString *text)
 {
     if (auto *label = qobject_cast<QLabel const *>(widget))

@@ -67,6 +67,9 @@ public:
 
     // The widget exists and is visible on the screen.
     static bool isShown(QWidget const *widget);
+    // The widget is shown and a person sees it: no view of the plug-in that
+    // lies higher covers it whole.
+    bool isOnScreen(QWidget const *widget) const;
     // The text that a label, a button or a rolling text shows, or the text
     // property of a widget that paints its own text; false for other
     // widgets.

@@ -56,6 +56,17 @@ QString SimulatorHost::defaultReversePluginFile(QString const &pluginFile)
 bool SimulatorHost::load(QString const &pluginFile, QString *error)
 {
     unload();
+    // Qt's loader says only that it can't load a file it doesn't find.
+    const QFileInfo file(pluginFile);
+    if (!file.exists()) {
+        *error = QStringLiteral("%1: no such plug-in file").arg(pluginFile);
+        return false;
+    }
+    if (!file.isFile() || !file.isReadable()) {
+        *error = QStringLiteral("%1: %2").arg(pluginFile, file.isFile() ? QStringLiteral("can't be read")
+                                                                          : QStringLiteral("not a file"));
+        return false;
+    }
     m_loader.setFileName(pluginFile);
     // The framework reads the metadata before it loads the library.
     const QJsonObject meta = m_loader.metaData();

@@ -214,8 +214,19 @@ private slots:
 
         const QString reference = CatalogueExport::reference(catalogue);
         QVERIFY(reference.contains(QStringLiteral("## Family 124")));
-        QVERIFY(reference.contains(QStringLiteral("| 1 | Treble | 5 | 106 | 19 | `2E A8 02 01 00 ck` | yes |")));
+        QVERIFY(reference.contains(QStringLiteral("| 1 | Treble | number | 106 | 19 | `2E A8 02 01 00 ck` | yes |")));
         QVERIFY(reference.contains(QStringLiteral("A page of its own widgets.")));
+        QVERIFY(reference.contains(QStringLiteral("0 choice, 1 percent, 2 temperature,")));
+        // Rows named as the screen shows them: 72_4 numbers its titles.
+        QVERIFY(reference.contains(QStringLiteral("| 1 | 5km ordinate | text |")));
+        QVERIFY(!reference.contains(QStringLiteral("| km ordinate |")));
+
+        // The pages and families that the catalogue gives titles but no
+        // rows are counted and named, over all and at each family.
+        QVERIFY(reference.contains(QStringLiteral("133 of the 261 pages have no rows")));
+        QVERIFY(reference.contains(QStringLiteral("26 families (41 protocol ids) have no page with rows")));
+        const int empty = 26;
+        QCOMPARE(reference.count(QStringLiteral("Its pages have no rows: each opens empty.")), empty);
     }
 };
 

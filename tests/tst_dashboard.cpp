@@ -293,6 +293,45 @@ private slots:
         QCOMPARE(pixelsOf(whiteText, grey), 0);
     }
 
+    // The plates' numbers, at their widest, stand on the plate's picture:
+    // the white of the text lies within it, clear of its frame.
+    void platesHoldTheirNumbers()
+    {
+        Body body;
+        body.temperature = -405;
+        body.voltage = 148;
+        body.store();
+        dashboard->refresh();
+        QCOMPARE(text("temperatureButton"), "-40.5" + Celsius);
+        const QImage picture(qEnvironmentVariable("CARCONTROL_RESOURCE_ROOT") + "/exStyle4/toptitle.png");
+        QVERIFY(!picture.isNull());
+        for (const char *name : {"temperatureButton", "voltageButton"}) {
+            QWidget *plate = part(name);
+            const QImage shot = plate->grab().toImage();
+            const QRect onPicture(QPoint((plate->width() - picture.width()) / 2, (plate->height() - picture.height()) / 2),
+                                  picture.size());
+            QRect text;
+            for (int y = 0; y < shot.height(); ++y) {
+                for (int x = 0; x < shot.width(); ++x) {
+                    if (shot.pixelColor(x, y) == Qt::white)
+                        text |= QRect(x, y, 1, 1);
+                }
+            }
+            QVERIFY2(!text.isNull(), name);
+            QVERIFY2(onPicture.contains(text), name);
+            // Clear of the plate's frame at the top, by a gap of 3 pixels:
+            // the frame ends at the first line of the picture's middle
+            // column past the frame's colour.
+            int inside = 0;
+            while (inside < picture.height() && qAlpha(picture.pixel(picture.width() / 2, inside)) == 0)
+                ++inside;
+            const QRgb frame = picture.pixel(picture.width() / 2, inside);
+            while (inside < picture.height() && picture.pixel(picture.width() / 2, inside) == frame)
+                ++inside;
+            QVERIFY2(text.top() >= onPicture.top() + inside + 3, qPrintable(QString("%1: %2").arg(name).arg(inside)));
+        }
+    }
+
     // The other dials and symbols were enabled from the start; one that
     // something disabled comes back, the engine speed with its unit.
     void disabledPartsComeBack()

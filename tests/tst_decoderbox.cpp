@@ -6,9 +6,11 @@
 
 #include "canobj.h"
 #include "decoderbox.h"
+#include "demo.h"
 #include "eventpump.h"
 #include "gallery.h"
 #include "hostsim.h"
+#include "listdata.h"
 #include "mainwindow.h"
 #include "scenariorunner.h"
 #include "simulatorhost.h"
@@ -16,6 +18,7 @@
 #include <QCheckBox>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTreeWidget>
 #include <QtTest>
@@ -71,14 +74,22 @@ QJsonObject fixture()
                     {"steps", QJsonArray{step(1, "2E 84 02 ?? 10 ck", QJsonArray{QJsonArray{40, 0x30, 0x10}},
                                               "FF FF FF 00 30")}}},
         QJsonObject{{"title", "Seat"}, {"adjustable", true}, {"answered", false}, {"direction", true}},
-        QJsonObject{{"title", "Name"}, {"adjustable", false},
-                    {"source", QJsonObject{{"type", "text"}, {"offset", 60}}}}};
+        QJsonObject{{"title", "Radio frequency"}, {"adjustable", false},
+                    {"source", QJsonObject{{"type", "text"}, {"offset", 60}}}},
+        QJsonObject{{"title", "Driving time since start"}, {"adjustable", false},
+                    {"source", QJsonObject{{"type", "text"}, {"offset", 64}}}}};
     const QJsonArray rows67{QJsonObject{
         {"title", "Volume"}, {"adjustable", true}, {"answered", true},
         {"steps", QJsonArray{step(3, "FD 05 05 03 ck ck", QJsonArray{QJsonArray{376, 255, 3}})}}}};
     return QJsonObject{
         {"families", QJsonArray{QJsonObject{{"family", 28}, {"ids", QJsonArray{28}},
-                                            {"pages", QJsonArray{QJsonObject{{"rows", rows28}}}}},
+                                            {"pages", QJsonArray{QJsonObject{{"title", "Amplifier status"}, {"rows", rows28}},
+                                                                 QJsonObject{{"title", "Notes"}, {"rows", QJsonArray()}},
+                                                                 QJsonObject{{"title", "Dashboard"}, {"rows", QJsonArray()},
+                                                                             {"ownWidgets", true}}}}},
+                                QJsonObject{{"family", 50}, {"ids", QJsonArray{50, 51}},
+                                            {"pages", QJsonArray{QJsonObject{{"title", "Settings"}, {"rows", QJsonArray()}},
+                                                                 QJsonObject{{"title", "Mileage"}, {"rows", QJsonArray()}}}}},
                                 QJsonObject{{"family", 67}, {"ids", QJsonArray{67}},
                                             {"pages", QJsonArray{QJsonObject{{"rows", rows67}}}}}}}};
 }
@@ -243,14 +254,32 @@ private slots:
         QVERIFY(box.load(fixture(), &error));
         QVERIFY(box.writeSamples(28));
         QCOMPARE(HostSim::buffer(28).byte(106), quint8(9));
-        QCOMPARE(HostSim::buffer(28).text(60), QString("Name"));
+        // Text rows get a text of their kind, not their title.
+        QCOMPARE(HostSim::buffer(28).text(60), QString("98.5 MHz"));
+        QCOMPARE(HostSim::buffer(28).text(64), QString("01:25"));
         QVERIFY(!box.writeSamples(41));
+
+        // What the picker and the gallery say of a family: its first pages'
+        // titles, and whether its pages open empty. A page of its own
+        // widgets isn't empty.
+        QCOMPARE(box.familyName(28), QString("Amplifier status, Notes, ..."));
+        QCOMPARE(box.familyName(51), QString("Settings, Mileage"));
+        QCOMPARE(box.familyName(41), QString());
+        QCOMPARE(box.rowCount(28), 5);
+        QVERIFY(!box.hasOnlyEmptyPages(28));
+        QVERIFY(box.hasOnlyEmptyPages(51));
+        QVERIFY(!box.hasOnlyEmptyPages(41));
+        QVERIFY(!box.isEmptyPage(28, 0));
+        QVERIFY(box.isEmptyPage(28, 1));
+        QVERIFY(!box.isEmptyPage(28, 2));
+        QVERIFY(!box.isEmptyPage(28, 3));
     }
 
     void endToEndWithThePlugin();
     void everyTablePageMovesOnATap();
     void windowSwitchAndFrameLog();
     void galleryOfOneFamily();
+    void sampleValueInEveryRow();
 
 private:
     bool run(Scenario::Runner &runner, QString const &text, QString *failure);
@@ -415,20 +444,106 @@ void TestDecoderBox::galleryOfOneFamily()
     QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
     QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
     HostSim::screen()->show();
-    QTemporaryDir dir;
+    // Two runs with the clock standing give the same files, byte for byte.
+    HostSim::setFixedClock(QTime(10, 8));
+    QTemporaryDir dir, again;
     const Scenario::Result result = Gallery::write(host, dir.path(), {28});
     QVERIFY2(result.status == Scenario::Passed, qPrintable(result.message));
-    QCOMPARE(result.screenshots.size(), 8);
-    for (int page = 1; page <= 8; ++page) {
-        QImage picture(dir.filePath(QString("28_%1.png").arg(page)));
-        QCOMPARE(picture.size(), QSize(1024, 600));
+    const Scenario::Result second = Gallery::write(host, again.path(), {28});
+    QVERIFY2(second.status == Scenario::Passed, qPrintable(second.message));
+    HostSim::setFixedClock(QTime());
+    HostSim::screen()->hide();
+    const QStringList files = QDir(dir.path()).entryList(QDir::Files, QDir::Name);
+    QCOMPARE(QDir(again.path()).entryList(QDir::Files, QDir::Name), files);
+    for (QString const &name : files) {
+        QFile a(dir.filePath(name)), b(again.filePath(name));
+        QVERIFY(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
+        QVERIFY2(a.readAll() == b.readAll(), qPrintable(name));
     }
+
+    // Each page whole, a screen at a time: 28_3's 116 rows take many
+    // screens, each scrolled on from the last; a short page takes one.
+    QCOMPARE(files.size(), result.screenshots.size() + 1);
+    QVERIFY(files.contains("28_7.png"));
+    QVERIFY(!files.contains("28_7-2.png"));
+    QVERIFY(files.contains("28_3.png") && files.contains("28_3-2.png") && files.contains("28_3-20.png"));
+    for (QString const &name : files) {
+        if (name.endsWith(".png"))
+            QCOMPARE(QImage(dir.filePath(name)).size(), QSize(1024, 600));
+    }
+    QVERIFY(QImage(dir.filePath("28_3.png")) != QImage(dir.filePath("28_3-2.png")));
+
     QFile index(dir.filePath("index.html"));
     QVERIFY(index.open(QIODevice::ReadOnly));
     const QString html = QString::fromUtf8(index.readAll());
-    QVERIFY(html.contains("<h2>Family 28</h2>"));
+    QVERIFY(html.contains("<li><a href=\"#family28\">Family 28</a>: Parking assist status, Amplifier status, ...</li>"));
+    QVERIFY(html.contains("<h2 id=\"family28\">Family 28</h2>"));
     QVERIFY(html.contains("<img src=\"28_2.png\" alt=\"Amplifier status\">"));
+    QVERIFY(html.contains("<img src=\"28_3-2.png\" alt=\"Body information\"><figcaption>3. Body information (2 of"));
+
+    // A folder that can't be made is named with the system's reason.
+    const Scenario::Result refused = Gallery::write(host, dir.filePath("28_2.png/inside"), {28});
+    QCOMPARE(refused.status, Scenario::Failed);
+    QVERIFY2(refused.message.contains(dir.filePath("28_2.png/inside") + ": Not a directory"), qPrintable(refused.message));
+}
+
+void TestDecoderBox::sampleValueInEveryRow()
+{
+    // The sample data of the gallery and the window: every row of every page
+    // with rows shows a value, not an empty field, "--" of a missing tyre,
+    // "null" where the row has other options, or a text row's own title.
+    // Two rows show no value by their page's design: the trio's last
+    // vehicle row of 32, and 72_8's row that opens the tyre panel.
+    const QStringList withoutValue{"32_6 row 35", "72_8 row 12"};
+    SimulatorHost host;
+    QString error;
+    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QFile file(CATALOGUE_FILE);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QJsonArray families = QJsonDocument::fromJson(file.readAll()).object().value("families").toArray();
+    HostSim::screen()->show();
+    Scenario::Runner runner(host);
+    QStringList failures;
+    int rowsSeen = 0;
+    for (QJsonValue const &f : families) {
+        const int protocol = f.toObject().value("ids").toArray().first().toInt();
+        const QJsonArray pages = f.toObject().value("pages").toArray();
+        HostSim::reset();
+        QVERIFY(run(runner, QString("protocol %1\n").arg(protocol), &error));
+        QCOMPARE(Demo::writeSamples(host, protocol).status, Scenario::Passed);
+        QVERIFY2(run(runner, "call showExView\n", &error), qPrintable(error));
+        for (QJsonValue const &p : pages) {
+            const QJsonObject page = p.toObject();
+            if (page.value("rows").toArray().isEmpty())
+                continue;
+            const QString name = QString("%1_%2").arg(f.toObject().value("family").toInt()).arg(page.value("index").toInt() + 1);
+            if (!run(runner, QString("tap title %1\nwait 120\n").arg(page.value("index").toInt()), &error)) {
+                failures << name + ": " + error;
+                continue;
+            }
+            QTableView *table = host.probe().pageTable();
+            for (int r = 0; table && r < table->model()->rowCount(); ++r) {
+                const QModelIndex index = table->model()->index(r, 0);
+                const QString title = index.data(TitleRole).toString();
+                const QString value = index.data(DisplayValueRole).toString().trimmed();
+                ++rowsSeen;
+                if (withoutValue.contains(QString("%1 row %2").arg(name).arg(r)))
+                    continue;
+                if (value.isEmpty() || value == "--" || value == "null" || value == title)
+                    failures << QString("%1 row %2 \"%3\": \"%4\"").arg(name).arg(r).arg(title, value);
+            }
+            run(runner, "key back\n", &error);
+        }
+        run(runner, "tap bar home\n", &error);
+    }
     HostSim::screen()->hide();
+    HostSim::reset();
+    QVERIFY(rowsSeen > 1000);
+    // QtTest cuts a long message: each row on a line of its own.
+    for (QString const &failure : qAsConst(failures))
+        qWarning("%s", qPrintable(failure));
+    QVERIFY2(failures.isEmpty(), qPrintable(QString("%1 of %2 rows:\n").arg(failures.size()).arg(rowsSeen) + failures.join("\n")));
 }
 
 QTEST_MAIN(TestDecoderBox)

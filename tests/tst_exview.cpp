@@ -14,6 +14,7 @@
 
 #include <QPointer>
 #include <QSignalSpy>
+#include <QLabel>
 #include <QtTest>
 
 namespace {
@@ -174,6 +175,16 @@ private slots:
         QVERIFY(panel && panel->isVisible());
         QVERIFY(!stack->isVisible());
         QCOMPARE(bar()->title(), QString("tire pressure"));
+        // The hint, longer than the screen is wide, wraps and stays whole
+        // within the panel.
+        auto *hint = panel->findChild<QLabel *>("label");
+        QVERIFY(hint);
+        QVERIFY(hint->fontMetrics().horizontalAdvance(hint->text()) > panel->width());
+        QVERIFY(panel->rect().contains(hint->geometry()));
+        const int wrap = hint->wordWrap() ? int(Qt::TextWordWrap) : 0;
+        const QRect needed = hint->fontMetrics().boundingRect(QRect(0, 0, hint->width(), panel->height()),
+                                                              wrap | int(hint->alignment()), hint->text());
+        QVERIFY(needed.width() <= hint->width() && needed.height() <= hint->height());
 
         // Back from the panel sends nothing and shows the page again.
         HostSim::pressBarButton(bar(), "back");

@@ -419,6 +419,31 @@ private slots:
     // "List" opens the dialog over the page with the entries fetched so far;
     // while it is open, a grown list in the buffer refreshes it, and with
     // the total reached its button is blocked.
+    // On the head unit's screen every button of the remote lies whole, and
+    // its text, wrapped at the button's font, within the button.
+    void discRemoteFitsTheScreen()
+    {
+        buffer().setByte(36, 2);
+        PageTest::ExtendedView ex;
+        ex.open(Disc);
+        QWidget *screen = HostSim::screen();
+        QCOMPARE(screen->size(), QSize(1024, 600));
+        const auto buttons = ex.page()->findChildren<CDButton *>(QRegularExpression("^discButton"));
+        QCOMPARE(buttons.size(), 21);
+        for (CDButton *button : buttons) {
+            QVERIFY2(button->isVisible(), qPrintable(button->text()));
+            const QRect onScreen(button->mapTo(screen, QPoint(0, 0)), button->size());
+            QVERIFY2(screen->rect().contains(onScreen), qPrintable(button->text()));
+            QFont font = button->font();
+            font.setPixelSize(int(button->height() * button->textScale()));
+            const QRect needed = QFontMetrics(font).boundingRect(button->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                                                                 button->text());
+            QVERIFY2(button->rect().contains(needed), qPrintable(button->text()));
+        }
+        // The screen goes, so that the next tests' windows keep the focus.
+        HostSim::screen()->hide();
+    }
+
     void discListDialog()
     {
         DataBuffer data = buffer();

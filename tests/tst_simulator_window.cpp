@@ -15,9 +15,11 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTreeWidget>
@@ -67,11 +69,14 @@ private slots:
     void screenButtonsAndKeys();
     void carPanels();
     void bufferEditorAndFrameLog();
+    void protocolChangeReopensViews();
     void languagePicker();
+    // Last: it takes the screen into a window of its own.
+    void zoomedWindowFitsALaptop();
 
 private:
     QWidget *screenPart(QString const &name) const { return m_host->probe().part(name); }
-    bool shown(QString const &name) const { return ScreenProbe::isShown(screenPart(name)); }
+    bool shown(QString const &name) const { return m_host->probe().isOnScreen(screenPart(name)); }
 
     SimulatorHost *m_host = nullptr;
     MainWindow *m_window = nullptr;
@@ -82,6 +87,7 @@ void TestSimulatorWindow::initTestCase()
     m_host = new SimulatorHost;
     QString error;
     QVERIFY2(m_host->load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
+    QVERIFY2(m_host->loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
     HostSim::setReversePluginFile(SimulatorHost::defaultReversePluginFile(SimulatorHost::defaultPluginFile()));
     m_window = new MainWindow(*m_host);
     m_window->startDemoCar(28);
@@ -104,26 +110,28 @@ void TestSimulatorWindow::screenAndProtocolPicker()
     QVERIFY(m_window->isAncestorOf(screen));
     QVERIFY(screen->isVisible());
 
-    // Every protocol id of the catalogue, with its family, after "no vehicle".
+    // Every protocol id of the catalogue, named by its family's first pages,
+    // after "no vehicle".
     auto *picker = m_window->findChild<QComboBox *>("protocolPicker");
     QVERIFY(picker);
     const QList<int> ids = Catalogue::protocolIds();
     QCOMPARE(ids.size(), 74);
     QCOMPARE(picker->count(), ids.size() + 1);
     QCOMPARE(picker->itemData(0).toInt(), 0);
-    for (int i = 0; i < ids.size(); ++i) {
+    for (int i = 0; i < ids.size(); ++i)
         QCOMPARE(picker->itemData(i + 1).toInt(), ids.at(i));
-        QCOMPARE(picker->itemText(i + 1), QString("%1: family %2").arg(ids.at(i)).arg(Catalogue::familyOf(ids.at(i))));
-    }
+    QCOMPARE(picker->itemText(picker->findData(28)), QString("28: Parking assist status, Amplifier status, ..."));
+    QCOMPARE(picker->itemText(picker->findData(30)), QString("30: Tire pressure information, Hybrid information, ..."));
+    QCOMPARE(picker->itemText(picker->findData(53)), picker->itemText(picker->findData(31)).replace("31:", "53:"));
 
     // The demo car on protocol 28; a pick selects the next id and tells the
     // root, whose next extended view holds that protocol's pages.
     QCOMPARE(CanObj::id(), 28);
     QCOMPARE(picker->currentData().toInt(), 28);
-    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("CarExView28"));
+    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("family 28, 8 pages"));
     QTest::keyClick(picker, Qt::Key_Down);
     QCOMPARE(CanObj::id(), 29);
-    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("CarExView29"));
+    QCOMPARE(m_window->findChild<QLabel *>("pageStackName")->text(), QString("family 29, 3 pages, none with rows"));
     QTest::keyClick(picker, Qt::Key_Up);
     QCOMPARE(CanObj::id(), 28);
 
@@ -273,7 +281,8 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
     EventPump::settle();
     QCOMPARE(frames->topLevelItemCount(), before + 1);
     const QStringList row = lastRow(frames);
-    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "unknown frame (no catalogue)"}));
+    // With the catalogue, what the frame means: the page, the row, the value.
+    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "28_2 \"Treble\" -> 13"}));
     QVERIFY(row.at(0).contains('.'));
 
     // The command line runs any scenario command.
@@ -292,6 +301,84 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
         QTest::keyClick(line, Qt::Key_Return);
     }
     QCOMPARE(lastRow(frames).mid(1, 4), (QStringList{"TX", "FD 06 90 7E 00 01 14", "FD", "90"}));
+}
+
+void TestSimulatorWindow::protocolChangeReopensViews()
+{
+    // On a page of 28 in both extended views, another protocol picked: both
+    // views are left and opened again, with the new protocol's list of
+    // pages, as a person would leave and open them.
+    auto *picker = m_window->findChild<QComboBox *>("protocolPicker");
+    HostSim::pressBarButton(HostSim::lastBaseBar(), "home");
+    EventPump::settle();
+    QVERIFY(!m_host->probe().findObject("exView"));
+    m_window->startDemoCar(28);
+    QCOMPARE(picker->currentData().toInt(), 28);
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QString missing;
+    QVERIFY2(m_host->input().tapTitle(1, &missing), qPrintable(missing));
+    EventPump::settle();
+    QVERIFY(shown("page"));
+    click(withText<QPushButton>(m_window, "Second extended view"));
+    QVERIFY(shown("exDialogView"));
+    QVERIFY(!shown("exView"));
+
+    QTest::keyClick(picker, Qt::Key_Down);
+    EventPump::settle();
+    QCOMPARE(CanObj::id(), 29);
+    QVERIFY(shown("exDialogView"));
+    QVERIFY(shown("list"));
+    QCOMPARE(m_host->probe().titleList()->model()->rowCount(), 3);
+    auto *first = qobject_cast<QWidget *>(m_host->probe().findObject("exView"));
+    QVERIFY(first && !first->isHidden());
+    QAbstractItemView *firstList = first->findChild<QAbstractItemView *>("listView");
+    QVERIFY(firstList && firstList->isVisibleTo(first));
+    QCOMPARE(firstList->model()->rowCount(), 3);
+
+    // Without an open view the pick opens none.
+    click(withText<QPushButton>(m_window, "Back"));
+    click(withText<QPushButton>(m_window, "Back"));
+    QVERIFY(!m_host->probe().findObject("exView"));
+    QVERIFY(!m_host->probe().findObject("exDialogView"));
+    QTest::keyClick(picker, Qt::Key_Up);
+    EventPump::settle();
+    QCOMPARE(CanObj::id(), 28);
+    QVERIFY(!m_host->probe().findObject("exView"));
+}
+
+void TestSimulatorWindow::zoomedWindowFitsALaptop()
+{
+    // On a 1366 x 768 desktop the screen is drawn smaller, so that the whole
+    // window fits; a desktop of 1920 x 1080 takes it at its size.
+    QCOMPARE(MainWindow::fittingZoom(QSize(1920, 1080)), 100);
+    const int zoom = MainWindow::fittingZoom(QSize(1366, 768));
+    QVERIFY(zoom >= 50 && zoom < 100);
+    HostSim::pressBarButton(HostSim::lastBaseBar(), "home");
+    EventPump::settle();
+    m_window->startDemoCar(28);
+
+    MainWindow zoomed(*m_host, zoom);
+    zoomed.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&zoomed));
+    EventPump::settle();
+    QVERIFY2(zoomed.width() <= 1366 && zoomed.height() <= 768 - 30,
+             qPrintable(QString("%1 x %2").arg(zoomed.width()).arg(zoomed.height())));
+    QTRY_VERIFY(zoomed.windowTitle().endsWith(QString("(screen at %1%)").arg(zoom)));
+    auto *view = zoomed.findChild<QGraphicsView *>("zoomedScreen");
+    QVERIFY(view);
+    QCOMPARE(view->size(), QSize(1024, 600) * zoom / 100);
+
+    // A finger on the drawn screen lands on the widget under it, at the
+    // screen's own coordinates: the second title opens its page.
+    click(withText<QPushButton>(&zoomed, "Extended view"));
+    QAbstractItemView *list = m_host->probe().titleList();
+    QVERIFY(list && shown("list"));
+    const QRect title = list->visualRect(list->model()->index(1, 0));
+    const QPoint onScreen = list->viewport()->mapTo(m_host->screen(), title.center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->mapFromScene(onScreen));
+    EventPump::settle();
+    QVERIFY(shown("page"));
+    QCOMPARE(m_host->probe().pageStack()->currentIndex(), 1);
 }
 
 // The Car panel's language: the source texts and every language that the

@@ -221,6 +221,26 @@ private slots:
         QVERIFY2(value.height() > 25, "the value is on more than one line");
     }
 
+    // A title that needs more lines than the row has room for stays within
+    // its row and its half: a smaller font, and past that an ellipsis, never
+    // lines over the separator or into the next row.
+    void overlongTitlesStayInTheirRow()
+    {
+        Page page(QList<ListData>()
+                  << ListData(TextKind, "Charging settings-set the aamount Of charge(normal)-battery percentage",
+                              QVariant("80%"), QVariantList(), true, 0, 1.0)
+                  << ListData(TextKind, QString("A title so long that no font of a size that a person can read "
+                                                "would let it stand whole in half a row, ").repeated(3),
+                              QVariant("1"), QVariantList(), true, 0, 1.0));
+        for (int r : {0, 1}) {
+            const QImage row = page.paintRow(r);
+            const QRect text = boundsOf(row.copy(0, 0, Middle, RowHeight), isText);
+            QVERIFY(!text.isNull());
+            QVERIFY2(text.top() > 0 && text.bottom() < RowHeight - 1, qPrintable(QString::number(r)));
+            QVERIFY2(text.height() > 40, "the title is on more than one line");
+        }
+    }
+
     void valueWithoutBackdropStaysCentred()
     {
         qputenv("CARCONTROL_RESOURCE_ROOT", noBackdrop.path().toLocal8Bit());

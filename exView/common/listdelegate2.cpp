@@ -16,6 +16,40 @@ int pixelSize(QModelIndex const &index, int role, QRect const &rect)
     return qMax(1, size < 1 ? rect.height() / 3 : size);
 }
 
+// Whether text, wrapped at the painter's font, stands whole in box.
+bool fits(QPainter *painter, QRect const &box, QString const &text)
+{
+    const QRect needed = painter->fontMetrics().boundingRect(box, TitleFlags, text);
+    return needed.height() <= box.height() && needed.width() <= box.width();
+}
+
+// The title, word wrapped in its box. One that needs more lines than the
+// row has room for shrinks, down to three quarters of its size, and then
+// gives up its last words for an ellipsis: it never runs into the rows
+// beside it.
+void drawTitle(QPainter *painter, QRect const &box, QString const &text)
+{
+    if (!fits(painter, box, text)) {
+        QFont font = painter->font();
+        const int smallest = qMax(1, font.pixelSize() * 3 / 4);
+        while (font.pixelSize() > smallest && !fits(painter, box, text)) {
+            font.setPixelSize(font.pixelSize() - 1);
+            painter->setFont(font);
+        }
+        if (!fits(painter, box, text)) {
+            const QString ellipsis(QChar(0x2026));
+            QString shown = text;
+            while (!shown.isEmpty() && !fits(painter, box, shown + ellipsis)) {
+                const int space = shown.lastIndexOf(QLatin1Char(' '));
+                shown = space > 0 ? shown.left(space) : shown.left(shown.size() - 1);
+            }
+            painter->drawText(box, TitleFlags, shown + ellipsis);
+            return;
+        }
+    }
+    painter->drawText(box, TitleFlags, text);
+}
+
 } // namespace
 
 int paintRowFrame(QPainter *painter, QStyleOptionViewItem const &option, QModelIndex const &index)
@@ -72,8 +106,7 @@ void ListDelegate2::paint(QPainter *painter, QStyleOptionViewItem const &option,
     const int textX = paintRowFrame(painter, option, index);
     const int middle = index.data(LeftButtonXRole).toInt();
 
-    painter->drawText(QRect(left + textX, top, middle - textX, height), TitleFlags,
-                      index.data(TitleRole).toString());
+    drawTitle(painter, QRect(left + textX, top, middle - textX, height), index.data(TitleRole).toString());
 
     // The arrows fill squares of the row's height: the left one begins at
     // the middle, the right one ends at the right edge. The views take taps

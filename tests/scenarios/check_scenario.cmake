@@ -5,13 +5,19 @@
 #   # absent: FILE     a file, relative to WORK_DIR, that the run must not write
 #   # written: FILE    a file, relative to WORK_DIR, that the run must write
 #                      (a PNG picture if its name ends in .png)
+#   # stdout: TEXT     a text that standard output must contain (repeatable)
 #   # stdin            the scenario comes on standard input
-#   # args: OPTIONS    more options for the simulator, e.g. --screenshot FILE
+#   # args: OPTIONS    more options for the simulator, e.g. --screenshot FILE;
+#                      {script} stands for this file's path
+#   # alone            the options alone, without --script: for the options
+#                      that run no scenario (the file is then only its header)
 # Called with -DSIMULATOR=... -DSCRIPT=... -DWORK_DIR=...
 
-file(STRINGS "${SCRIPT}" header REGEX "^# (exit|stderr|absent|written|stdin|args)")
+file(STRINGS "${SCRIPT}" header REGEX "^# (exit|stderr|stdout|absent|written|stdin|args|alone)")
 set(expected_status "")
 set(expected_texts "")
+set(expected_output "")
+set(alone FALSE)
 set(absent_files "")
 set(written_files "")
 set(use_stdin FALSE)
@@ -25,10 +31,15 @@ foreach(line IN LISTS header)
         list(APPEND absent_files "${CMAKE_MATCH_1}")
     elseif(line MATCHES "^# written: (.+)$")
         list(APPEND written_files "${CMAKE_MATCH_1}")
+    elseif(line MATCHES "^# stdout: (.+)$")
+        list(APPEND expected_output "${CMAKE_MATCH_1}")
     elseif(line MATCHES "^# stdin$")
         set(use_stdin TRUE)
+    elseif(line MATCHES "^# alone$")
+        set(alone TRUE)
     elseif(line MATCHES "^# args: (.+)$")
-        separate_arguments(more UNIX_COMMAND "${CMAKE_MATCH_1}")
+        string(REPLACE "{script}" "${SCRIPT}" options "${CMAKE_MATCH_1}")
+        separate_arguments(more UNIX_COMMAND "${options}")
         list(APPEND extra_args ${more})
     endif()
 endforeach()
@@ -38,7 +49,11 @@ endif()
 
 file(REMOVE_RECURSE "${WORK_DIR}")
 file(MAKE_DIRECTORY "${WORK_DIR}")
-if(use_stdin)
+if(alone)
+    execute_process(COMMAND "${SIMULATOR}" --platform offscreen ${extra_args}
+        WORKING_DIRECTORY "${WORK_DIR}"
+        RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err TIMEOUT 120)
+elseif(use_stdin)
     execute_process(COMMAND "${SIMULATOR}" --platform offscreen ${extra_args} --script -
         INPUT_FILE "${SCRIPT}" WORKING_DIRECTORY "${WORK_DIR}"
         RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err TIMEOUT 120)
@@ -55,6 +70,12 @@ foreach(text IN LISTS expected_texts)
     string(FIND "${err}" "${text}" at)
     if(at EQUAL -1)
         message(FATAL_ERROR "standard error lacks: ${text}\nstandard error:\n${err}")
+    endif()
+endforeach()
+foreach(text IN LISTS expected_output)
+    string(FIND "${out}" "${text}" at)
+    if(at EQUAL -1)
+        message(FATAL_ERROR "standard output lacks: ${text}\nstandard output:\n${out}")
     endif()
 endforeach()
 foreach(file IN LISTS absent_files)

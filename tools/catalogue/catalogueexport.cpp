@@ -250,11 +250,21 @@ QJsonObject sourceOf(Row const *tableRow)
 // buffer (a choice may be the context of other rows, such as a unit or a
 // mode, and the frames were taken in that context); a number from the
 // middle of its range.
+// A choice whose option says that the car reports nothing ("null"), where
+// the row has other options to show.
+bool isNullChoice(ListData const &data, int value)
+{
+    return data.kind == ChoiceKind && data.options.size() > 1 && value >= 0 && value < data.options.size()
+        && data.options.at(value).toString() == QLatin1String("null");
+}
+
 int sampleValue(ListData const &data, int zeroValue)
 {
     const int n = data.options.size();
-    if (data.kind == ChoiceKind)
-        return zeroValue >= 0 && zeroValue < n ? zeroValue : 0;
+    if (data.kind == ChoiceKind) {
+        const int value = zeroValue >= 0 && zeroValue < n ? zeroValue : 0;
+        return isNullChoice(data, value) ? (value + 1) % n : value;
+    }
     if (n >= 2 && data.options.first().type() != QVariant::String)
         return (data.options.first().toInt() + data.options.at(n == 2 || n == 3 ? n - 1 : 1).toInt()) / 2;
     return 1;
@@ -262,7 +272,9 @@ int sampleValue(ListData const &data, int zeroValue)
 
 QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row const *tableRow, int protocolId)
 {
-    QJsonObject row{{"title", tableRow ? QString::fromUtf8(tableRow->title()) : data.title},
+    // The title as the page shows it: some pages number or complete their
+    // table's titles ("0km ordinate" from "km ordinate").
+    QJsonObject row{{"title", data.title.isEmpty() && tableRow ? QString::fromUtf8(tableRow->title()) : data.title},
                     {"kind", data.kind},
                     {"unit", data.unit},
                     {"factor", data.factor},
@@ -399,7 +411,8 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     row["answered"] = answered;
 
     // The demo value: for a choice the step to its value on a zeroed
-    // buffer, else the middle step, that the car can report.
+    // buffer, else the middle step, that the car can report; never a
+    // choice's "null" where it has other options.
     int first = steps.size() / 2;
     for (int i = 0; data.kind == ChoiceKind && i < steps.size(); ++i) {
         if (steps.at(i).toObject().value("value").toInt() == start)
@@ -407,10 +420,18 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
     }
     for (int i = 0; i < steps.size(); ++i) {
         QJsonObject const step = steps.at((first + i) % steps.size()).toObject();
-        if (step.value("shows").toBool()) {
+        if (step.value("shows").toBool() && !isNullChoice(data, step.value("value").toInt())) {
             row["sample"] = QJsonObject{{"value", step.value("value")}, {"writes", step.value("writes")}};
             break;
         }
+    }
+    // A row that the car can't be made to report by a step still shows a
+    // value that its place can hold.
+    if (!row.contains("sample") && tableRow) {
+        const int value = sampleValue(data, start);
+        const std::optional<Writes> place = PageRunner::placeFor(*tableRow, value);
+        if (place && runner.shows(index, *place, value))
+            row["sample"] = QJsonObject{{"value", value}, {"writes", toJson(*place)}};
     }
     return row;
 }
@@ -543,6 +564,32 @@ QString sourceText(QJsonObject const &source)
     return QString();
 }
 
+// The kinds of rows by what their value shows, in the order of their
+// numbers.
+const char *const kindNames[] = {
+    "choice", "percent", "temperature", "electric", "pressure", "number", "engine speed",
+    "speed", "distance", "unscaled", "text", "time span", "time of day", "suffixed",
+};
+
+QString kindText(int kind)
+{
+    const int count = int(sizeof kindNames / sizeof kindNames[0]);
+    return kind >= 0 && kind < count ? QString::fromLatin1(kindNames[kind]) : QString::number(kind);
+}
+
+// A family whose every page opens empty: titles, no rows, no widgets of
+// its own.
+bool withoutRows(QJsonObject const &family)
+{
+    const QJsonArray pages = family.value("pages").toArray();
+    for (QJsonValue const &p : pages) {
+        const QJsonObject page = p.toObject();
+        if (page.value("ownWidgets").toBool() || !page.value("rows").toArray().isEmpty())
+            return false;
+    }
+    return !pages.isEmpty();
+}
+
 } // namespace
 
 QString reference(QJsonObject const &catalogue)
@@ -557,6 +604,37 @@ QString reference(QJsonObject const &catalogue)
     text += QStringLiteral("Adjustable rows answered: %1 of %2.\n\n")
                 .arg(catalogue.value("answered").toInt())
                 .arg(catalogue.value("adjustable").toInt());
+    text += QStringLiteral("A row's kind says how its value shows: ");
+    QStringList kinds;
+    for (int kind = 0; kind < int(sizeof kindNames / sizeof kindNames[0]); ++kind)
+        kinds << QStringLiteral("%1 %2").arg(kind).arg(QLatin1String(kindNames[kind]));
+    text += kinds.join(QStringLiteral(", ")) + QStringLiteral(".\n\n");
+
+    QStringList empty;
+    int emptyIds = 0;
+    int pages = 0;
+    int emptyPages = 0;
+    for (QJsonValue const &f : catalogue.value("families").toArray()) {
+        for (QJsonValue const &p : f.toObject().value("pages").toArray()) {
+            ++pages;
+            if (!p.toObject().value("ownWidgets").toBool() && p.toObject().value("rows").toArray().isEmpty())
+                ++emptyPages;
+        }
+        if (!withoutRows(f.toObject()))
+            continue;
+        empty << QString::number(f.toObject().value("family").toInt());
+        emptyIds += f.toObject().value("ids").toArray().size();
+    }
+    if (emptyPages)
+        text += QStringLiteral("%1 of the %2 pages have no rows: the catalogue names these pages and their titles "
+                               "and nothing more, so they open empty. %3 families (%4 protocol ids) have no page "
+                               "with rows at all: families %5.\n\n")
+                    .arg(emptyPages)
+                    .arg(pages)
+                    .arg(empty.size())
+                    .arg(emptyIds)
+                    .arg(empty.join(QStringLiteral(", ")));
+
     for (QJsonValue const &f : catalogue.value("families").toArray()) {
         const QJsonObject family = f.toObject();
         QStringList ids;
@@ -567,6 +645,8 @@ QString reference(QJsonObject const &catalogue)
                     .arg(ids.join(QStringLiteral(", ")))
                     .arg(family.value("answered").toInt())
                     .arg(family.value("adjustable").toInt());
+        if (withoutRows(family))
+            text += QStringLiteral("Its pages have no rows: each opens empty.\n\n");
         for (QJsonValue const &p : family.value("pages").toArray()) {
             const QJsonObject page = p.toObject();
             text += QStringLiteral("### %1. %2 (`%3`)\n\n")
@@ -574,6 +654,10 @@ QString reference(QJsonObject const &catalogue)
                         .arg(page.value("title").toString(), page.value("class").toString());
             if (page.value("ownWidgets").toBool()) {
                 text += QStringLiteral("A page of its own widgets.\n\n");
+                continue;
+            }
+            if (page.value("rows").toArray().isEmpty()) {
+                text += QStringLiteral("No rows.\n\n");
                 continue;
             }
             text += QStringLiteral("| # | Row | Kind | Buffer | Steps | First frame | Answered |\n"
@@ -590,7 +674,7 @@ QString reference(QJsonObject const &catalogue)
                 text += QStringLiteral("| %1 | %2 | %3 | %4 | %5 | %6 | %7 |\n")
                             .arg(i)
                             .arg(cell(row.value("title").toString()))
-                            .arg(row.value("kind").toInt())
+                            .arg(kindText(row.value("kind").toInt()))
                             .arg(sourceText(row.value("source").toObject()))
                             .arg(steps.isEmpty() ? QString() : QString::number(steps.size()))
                             .arg(steps.isEmpty() ? QString()
