@@ -102,9 +102,9 @@ Scenario::Result write(SimulatorHost &host, QString const &directory, QList<int>
         HostSim::reset();
         if (!run(runner, QStringLiteral("protocol %1").arg(protocolId), &result))
             return result;
-        result = Demo::writeSamples(host, protocolId);
-        if (result.status != Scenario::Passed)
-            return result;
+        const Scenario::Result samples = Demo::writeSamples(host, protocolId);
+        if (samples.status != Scenario::Passed)
+            return samples;
         if (!run(runner, QStringLiteral("call showExView"), &result))
             return result;
         QAbstractItemView *list = host.probe().titleList();
