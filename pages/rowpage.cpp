@@ -8,6 +8,8 @@
 #include "tableview.h"
 
 #include <QCoreApplication>
+#include <QHash>
+#include <QPair>
 #include <QHeaderView>
 #include <QStringList>
 #include <QVBoxLayout>
@@ -26,6 +28,26 @@ RowPage::RowPage(QString const &title, QWidget *parent)
 QList<Row> RowPage::rowTable() const
 {
     return QList<Row>();
+}
+
+bool RowPage::tableFollowsBuffer() const
+{
+    return false;
+}
+
+QList<Row> RowPage::tableForList() const
+{
+    if (tableFollowsBuffer())
+        return rowTable();
+    // A page's table is the same for every object of its class on the same
+    // protocol: built on the first visit, shared (not copied) afterwards.
+    typedef QPair<const QMetaObject *, int> TableKey;
+    static QHash<TableKey, QList<Row> > tables;
+    const TableKey key(metaObject(), bufferId());
+    QHash<TableKey, QList<Row> >::const_iterator found = tables.constFind(key);
+    if (found != tables.constEnd())
+        return found.value();
+    return tables.insert(key, rowTable()).value();
 }
 
 int RowPage::bufferId() const
@@ -78,7 +100,7 @@ void RowPage::createView()
 
 void RowPage::initlist()
 {
-    m_rows = rowTable();
+    m_rows = tableForList();
     planRefresh();
     const DataBuffer data = buffer();
     const char *context = metaObject()->className();

@@ -34,6 +34,10 @@ public:
     // The table as the buffer makes it now, without building the list: for
     // tools that list what any car could show.
     QList<Row> currentRowTable() const { return rowTable(); }
+    // Whether the table changes with the buffer (options that follow the
+    // car's model, say): such a table is built anew for each list; other
+    // pages build theirs once per class and protocol and share it.
+    virtual bool tableFollowsBuffer() const;
 
 public slots:
     void onModelReset();
@@ -91,6 +95,8 @@ protected:
 private:
     // Sorts the rows for the refresh, once per table.
     void planRefresh();
+    // The table for initlist(): the class's shared one, or a new one.
+    QList<Row> tableForList() const;
 
     QList<Row> m_rows;
     // The refresh's plan, a mark per row: NumberRow for a number from a

@@ -45,6 +45,12 @@ Row reason(const char *title, int offset)
 
 } // namespace
 
+// The colour options follow the car model byte.
+bool CarInfoItem48_6::tableFollowsBuffer() const
+{
+    return true;
+}
+
 QList<Row> CarInfoItem48_6::rowTable() const
 {
     // The colours depend on the car model as the page finds it when it

@@ -70,6 +70,7 @@ class CarInfoItem48_6 : public RowPage
     Q_OBJECT
 public:
     using RowPage::RowPage;
+    bool tableFollowsBuffer() const;
 
 protected:
     QList<Row> rowTable() const;
