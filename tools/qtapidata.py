@@ -22,6 +22,8 @@ import os
 import re
 import sys
 
+from qtapiguard import param_kinds
+
 MODULES = ("qtcore", "qtgui", "qtwidgets")
 FIRST_LATER = (5, 4)
 
@@ -53,7 +55,7 @@ def parse_signature(sig):
     name, params = m.group(1), m.group(2)
     if "operator" in name:
         return None
-    return name, params.strip()
+    return name, param_kinds(params.strip())
 
 
 def main():
@@ -109,7 +111,9 @@ def main():
     print("# \"introduced in Qt 5.x\" notes of Qt's reference documentation")
     print("# (written by tools/qtapidata.py; do not edit by hand).")
     print("# release<TAB>kind<TAB>name<TAB>parameters; release \"-\": an overload")
-    print("# that Qt 5.3 already had, of a name that gained others later.")
+    print("# that Qt 5.3 already had, of a name that gained others later. The")
+    print("# parameters are what the guard tells apart (qtapiguard.param_kind):")
+    print("# callable, chars, chrono or any, with \"?\" after one with a default.")
     for row in sorted(rows, key=key):
         print("\t".join(row))
 

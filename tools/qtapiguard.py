@@ -80,6 +80,8 @@ def split_top(text):
 
 
 def param_kind(param):
+    """What a parameter of Qt's takes, as far as the guard tells arguments
+    apart: a callable, a C string, a std::chrono duration, or anything."""
     if re.search(r"\b(Functor|PointerToMemberFunction|Func\d*|std::function)\b", param):
         return "callable"
     if re.search(r"\bchar\s*\*", param):
@@ -89,12 +91,20 @@ def param_kind(param):
     return "any"
 
 
-def parse_params(params):
-    if params in ("", "void"):
-        return []
+def param_kinds(params):
+    """A parameter list as the data file keeps it: the kinds, a "?" after a
+    parameter with a default; "..." for a macro's arguments."""
     if params.strip() == "...":
+        return "..."
+    if params in ("", "void"):
+        return ""
+    return " ".join(param_kind(p) + ("?" if "=" in p else "") for p in split_top(params))
+
+
+def parse_params(kinds):
+    if kinds == "...":
         return None                      # a macro's arguments: anything
-    return [(param_kind(p), "=" in p) for p in split_top(params)]
+    return [(kind.rstrip("?"), kind.endswith("?")) for kind in kinds.split()]
 
 
 def arg_kind(arg):
