@@ -13,6 +13,7 @@
 #include "listdata.h"
 #include "mainwindow.h"
 #include "scenariorunner.h"
+#include "simtests.h"
 #include "simulatorhost.h"
 
 #include <QCheckBox>
@@ -299,8 +300,7 @@ void TestDecoderBox::endToEndWithThePlugin()
 {
     SimulatorHost host;
     QString error;
-    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
-    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
     QVERIFY(host.box().answeredRows() * 10 > host.box().adjustableRows() * 9);
     HostSim::screen()->show();
     Scenario::Runner runner(host);
@@ -351,11 +351,9 @@ void TestDecoderBox::everyTablePageMovesOnATap()
     // next value it steps to, as the car would report it.
     SimulatorHost host;
     QString error;
-    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
-    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
-    QFile file(CATALOGUE_FILE);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QJsonArray families = QJsonDocument::fromJson(file.readAll()).object().value("families").toArray();
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
+    const QJsonArray families = SimTest::catalogueFamilies();
+    QVERIFY(!families.isEmpty());
     HostSim::screen()->show();
     Scenario::Runner runner(host);
     int pagesTried = 0;
@@ -405,8 +403,7 @@ void TestDecoderBox::windowSwitchAndFrameLog()
 {
     SimulatorHost host;
     QString error;
-    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
-    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
     MainWindow window(host);
     window.startDemoCar(28);
     host.box().setEnabled(true);
@@ -441,8 +438,7 @@ void TestDecoderBox::galleryOfOneFamily()
 {
     SimulatorHost host;
     QString error;
-    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
-    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
     HostSim::screen()->show();
     // Two runs with the clock standing give the same files, byte for byte.
     HostSim::setFixedClock(QTime(10, 8));
@@ -498,11 +494,9 @@ void TestDecoderBox::sampleValueInEveryRow()
     const QStringList withoutValue{"32_6 row 35", "72_8 row 12"};
     SimulatorHost host;
     QString error;
-    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
-    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
-    QFile file(CATALOGUE_FILE);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QJsonArray families = QJsonDocument::fromJson(file.readAll()).object().value("families").toArray();
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
+    const QJsonArray families = SimTest::catalogueFamilies();
+    QVERIFY(!families.isEmpty());
     HostSim::screen()->show();
     Scenario::Runner runner(host);
     QStringList failures;

@@ -136,6 +136,26 @@ protected:
     }
 };
 
+// Fills the first 1,024 bytes of protocol id's buffer, byte i with byteAt(i).
+template <typename ByteAt>
+void fillBuffer(int id, ByteAt byteAt)
+{
+    DataBuffer buffer(CanObj::instance()->getDataPointerById(id));
+    for (int i = 0; i < 1024; ++i)
+        buffer.setByte(i, quint8(byteAt(i)));
+}
+
+// Page index of the stack brought to the front with its view built, or null
+// when it isn't a table page.
+RowPage *builtPage(CarExViewBase *stack, int index)
+{
+    stack->showIndex(index);
+    RowPage *page = qobject_cast<RowPage *>(stack->currentWidget());
+    if (page)
+        page->createView();
+    return page;
+}
+
 } // namespace
 
 class TestPageEngine : public QObject
@@ -442,16 +462,7 @@ private slots:
         // Pages whose hook keeps what a row shows until the car confirms it.
         const QStringList keepShown = {QStringLiteral("CarInfoItem64_1"), QStringLiteral("CarInfoItem30_9")};
         auto fill = [](int id, uint seed) {
-            DataBuffer buffer(CanObj::instance()->getDataPointerById(id));
-            for (int i = 0; i < 1024; ++i)
-                buffer.setByte(i, quint8((i * 2654435761u + seed * 40503u) >> 13));
-        };
-        auto builtPage = [](CarExViewBase *stack, int index) {
-            stack->showIndex(index);
-            RowPage *page = qobject_cast<RowPage *>(stack->currentWidget());
-            if (page)
-                page->createView();
-            return page;
+            fillBuffer(id, [seed](int i) { return (uint(i) * 2654435761u + seed * 40503u) >> 13; });
         };
         QWidget parent;
         int rowsCompared = 0;
@@ -493,11 +504,7 @@ private slots:
 #if Q_PROCESSOR_WORDSIZE == 4
         QSKIP("filled bytes over the buffer's object fields");
 #endif
-        auto fill = [](int id, int value) {
-            DataBuffer buffer(CanObj::instance()->getDataPointerById(id));
-            for (int i = 0; i < 1024; ++i)
-                buffer.setByte(i, quint8(value));
-        };
+        auto fill = [](int id, int value) { fillBuffer(id, [value](int) { return value; }); };
         auto texts = [](QList<Row> const &table) {
             QStringList out;
             for (Row const &row : table) {
@@ -516,12 +523,8 @@ private slots:
             if (!stack)
                 continue;
             for (int p = 0; p < stack->count(); ++p) {
-                stack->showIndex(p);
-                RowPage *page = qobject_cast<RowPage *>(stack->currentWidget());
-                if (!page)
-                    continue;
-                page->createView();
-                if (page->tableFollowsBuffer())
+                RowPage *page = builtPage(stack.data(), p);
+                if (!page || page->tableFollowsBuffer())
                     continue;
                 const QStringList inUse = texts(page->rows());
                 // Model and configuration codes are small numbers.

@@ -11,6 +11,7 @@
 #include "mainwindow.h"
 #include "recorder.h"
 #include "scenariorunner.h"
+#include "simtests.h"
 #include "simulatorhost.h"
 
 #include <QAbstractItemView>
@@ -27,6 +28,9 @@
 #include <QtTest>
 
 namespace {
+
+using SimTest::click;
+using SimTest::withText;
 
 // A 2E frame with its checksum by the test's own arithmetic: 0xFF XOR the
 // low byte of the sum of bytes 1 to size - 2.
@@ -62,24 +66,6 @@ QString readAll(QString const &file)
 {
     QFile input(file);
     return input.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(input.readAll()) : QString();
-}
-
-void click(QWidget *widget, QPoint const &point)
-{
-    QVERIFY(widget);
-    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, point);
-    EventPump::settle();
-}
-
-template <typename T>
-T *withText(QWidget *root, QString const &text)
-{
-    const auto widgets = root->findChildren<T *>();
-    for (T *widget : widgets) {
-        if (widget->text() == text)
-            return widget;
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -190,8 +176,7 @@ void TestSimulatorRecorder::replayMakesThePagesFollow()
 {
     SimulatorHost host;
     QString error;
-    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
-    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
     host.screen()->show();
     Scenario::Runner runner(host);
 
@@ -232,8 +217,7 @@ void TestSimulatorRecorder::recordClicksInTheWindowAndReplay()
 {
     SimulatorHost host;
     QString error;
-    QVERIFY2(host.load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
-    QVERIFY2(host.loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
     MainWindow window(host);
     window.startDemoCar(28);
     host.box().setEnabled(true);

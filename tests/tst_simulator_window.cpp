@@ -8,6 +8,7 @@
 #include "eventpump.h"
 #include "hostsim.h"
 #include "mainwindow.h"
+#include "simtests.h"
 #include "simulatorhost.h"
 #include "userinput.h"
 
@@ -27,24 +28,8 @@
 
 namespace {
 
-// The window's widget of that class whose text is text.
-template <typename T>
-T *withText(QWidget *root, QString const &text)
-{
-    const auto widgets = root->findChildren<T *>();
-    for (T *widget : widgets) {
-        if (widget->text() == text)
-            return widget;
-    }
-    return nullptr;
-}
-
-void click(QWidget *widget)
-{
-    QVERIFY(widget);
-    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, widget->rect().center());
-    EventPump::settle();
-}
+using SimTest::click;
+using SimTest::withText;
 
 QStringList lastRow(QTreeWidget *log)
 {
