@@ -129,12 +129,46 @@ private slots:
         QCOMPARE(p.shown(row), before);
     }
 
-    void amplifierBadBytes()
+    // The first amplifier holds only the stepped row within 2 .. 16; the
+    // other balance and tone bytes go out as the car reported them, less 2
+    // in eight bits, whichever side of the stepped row they lie on.
+    void amplifierNeighbours_data()
     {
-        // Bytes beyond the first amplifier's range go out held to it.
-        setBytes(0, {0, 255, 1, 17, 9, 1, 1, 5, 6, 6, 0});
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("start");
+        QTest::addColumn<int>("neighbour");
+        QTest::addColumn<bool>("down");
+        QTest::addColumn<QString>("expected");
+        const QList<QPair<int, QString>> neighbours = {{0, "FE"}, {1, "FF"}, {2, "00"},
+                                                        {16, "0E"}, {17, "0F"}, {18, "10"}};
+        for (int row = 0; row < 4; ++row) {
+            for (auto const &n : neighbours) {
+                for (bool down : {false, true}) {
+                    QStringList tones = {n.second, n.second, n.second, n.second};
+                    tones[row] = down ? "06" : "08"; // 9 stepped to 8 or 10, less 2
+                    QTest::addRow("row %d, others %d, %s", row, n.first, down ? "left" : "right")
+                        << row << 9 << n.first << down
+                        << QString("FD 0B C5 %1 09 83 36 01 ck").arg(tones.join(' '));
+                }
+            }
+        }
+        QTest::newRow("stepped from 18 is held at 16")
+            << 1 << 18 << 0 << true << QString("FD 0B C5 FE 0E FE FE 09 83 36 01 ck");
+        QTest::newRow("stepped from 0 is held at 2")
+            << 2 << 0 << 18 << false << QString("FD 0B C5 10 10 00 10 09 83 36 01 ck");
+    }
+    void amplifierNeighbours()
+    {
+        QFETCH(int, row);
+        QFETCH(int, start);
+        QFETCH(int, neighbour);
+        QFETCH(bool, down);
+        QFETCH(QString, expected);
+        setBytes(0, {neighbour, neighbour, neighbour, neighbour, 9, 1, 0, 3, 3, 6, 0});
+        setBytes(row, {start});
+        setBytes(70, {1});
         Page87 p(Amplifier);
-        QCOMPARE(p.arrow(4, false), fd("FD 0B C5 00 0E 00 0E 0A C5 66 01 ck"));
+        QCOMPARE(p.arrow(row, down), fd(expected));
     }
 
     void tripComputer()

@@ -12,8 +12,9 @@ const int SkipAfter = 7;
 int byteOf(int id) { return FirstByte + id + (id > SkipAfter ? 1 : 0); }
 int subCommandOf(int id) { return id + 1 + (id > SkipAfter ? 1 : 0); }
 
-// The theme colours as the car codes them: in threes, with "Midnight City"
-// and whatever lies beyond "Coffee" sent as 0x12.
+// The theme colours as the car codes them: in threes up to "Travel", 0x09,
+// and "Midnight City" as 0x0F; "Romance" (index 4), "Coffee" and any other
+// index go out as 0x12.
 int themeCode(int option)
 {
     switch (option) {

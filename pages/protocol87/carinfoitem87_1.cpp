@@ -30,7 +30,10 @@ int balanceStep(DataBuffer const &data, int current, bool down)
 
 // FD 0B C5 and eight bytes: the balances, bass and treble; the middle; the
 // loudness, the speed-linked volume and the sound effect; the centre
-// speaker and the subwoofer; the amplifier counted from 1. A car whose
+// speaker and the subwoofer; the amplifier counted from 1. The first
+// amplifier counts balance and tone from 2: only the stepped row was held
+// within its range (balanceStep), the others go out as the car reported
+// them, less 2 in eight bits, so that 0 leaves as FE. A car whose
 // configuration takes a road of its own gets nothing from this page.
 QByteArray amplifierFrame(DataBuffer const &data, int)
 {
@@ -39,7 +42,7 @@ QByteArray amplifierFrame(DataBuffer const &data, int)
     int tones[4];
     for (int i = 0; i < 4; ++i) {
         const int value = data.byte(i);
-        tones[i] = firstAmplifier(data) ? qBound(FirstLowest, value, FirstHighest) - FirstLowest : value;
+        tones[i] = firstAmplifier(data) ? (value - FirstLowest) & 0xFF : value;
     }
     const int switches = bit(data, 5, 0x80) | bit(data, 6, 0x40) | (data.byte(7) & 0x3F);
     const int speakers = ((data.byte(8) & 0x0F) << 4) | (data.byte(9) & 0x0F);
