@@ -79,9 +79,8 @@ int main(int argc, char **argv)
     CarControlInterface *root = qobject_cast<CarControlInterface *>(loader.instance());
     if (!root)
         return fail(QStringLiteral("%1: %2").arg(loader.fileName(), loader.errorString()));
-    std::printf("loaded %s, built with Qt %s\n", qPrintable(loader.fileName()),
-                qPrintable(QStringLiteral("%1.%2").arg(loader.metaData().value(QStringLiteral("version")).toInt() >> 16)
-                               .arg((loader.metaData().value(QStringLiteral("version")).toInt() >> 8) & 0xff)));
+    const int built = loader.metaData().value(QStringLiteral("version")).toInt();
+    std::printf("loaded %s, built with Qt %d.%d\n", qPrintable(loader.fileName()), built >> 16, (built >> 8) & 0xff);
 
     HostSim::setProtocolId(28);
     HostSim::resetImageFileReads();
@@ -100,6 +99,8 @@ int main(int argc, char **argv)
     if (!chinese.load(QDir(resources).filePath(QStringLiteral("translations/carcontrol_zh_CN.qm"))))
         return fail(QStringLiteral("no Chinese translation under %1").arg(resources));
     const QString title = chinese.translate("CarExView28", "Amplifier status");
+    if (title.isEmpty())
+        return fail(QStringLiteral("the Chinese translation has no \"Amplifier status\""));
     root->showExView();
     QWidget *extended = child(level(1), "exView");
     QAbstractItemView *list = qobject_cast<QAbstractItemView *>(child(extended, "listView"));
@@ -109,7 +110,7 @@ int main(int argc, char **argv)
     const QModelIndex item = list->model()->index(row, 0);
     list->scrollTo(item);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualRect(item).center());
-    QTest::qWait(150);
+    QCoreApplication::processEvents();
     QStackedWidget *stack = qobject_cast<QStackedWidget *>(child(extended, "stack"));
     QTableView *table = stack && stack->isVisible() && stack->currentWidget()
             ? stack->currentWidget()->findChild<QTableView *>() : nullptr;
