@@ -69,13 +69,15 @@ test-armhf:
 		-DCARCONTROL_ARMHF_SYSROOT=$(abspath $(ARMHF_SYSROOT)) -DCMAKE_CXX_FLAGS=-Werror
 	@cmake --build $(ARMHF_DIR) -j $(JOBS)
 	@cd $(ARMHF_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
-	@cmake -S . -B $(ARMHF_DIR)/unit -DCARCONTROL_UNIT_ONLY=ON \
+	@# Beside build-armhf/, so that the compiler's cache knows the sysroot's
+	@# headers by the same relative paths and the plug-in's code is compiled once.
+	@cmake -S . -B $(ARMHF_DIR)-unit -DCARCONTROL_UNIT_ONLY=ON \
 		-DCMAKE_TOOLCHAIN_FILE=$(CURDIR)/cmake/armhf-toolchain.cmake \
 		-DCARCONTROL_ARMHF_SYSROOT=$(abspath $(ARMHF_SYSROOT)) -DCMAKE_CXX_FLAGS=-Werror
-	@cmake --build $(ARMHF_DIR)/unit -j $(JOBS)
+	@cmake --build $(ARMHF_DIR)-unit -j $(JOBS)
 	@CARCONTROL_PLUGINCHECK_CONFIG=$(ARMHF_DIR)/plugincheck.json CARCONTROL_UNIT_LOADER=$(ARMHF_DIR)/tests/unitloader \
 		CARCONTROL_EMULATOR="qemu-arm -L $(abspath $(ARMHF_SYSROOT))" QT_QPA_PLATFORM=offscreen \
-		sh tests/package_check.sh headunit $(ARMHF_DIR)/unit .
+		sh tests/package_check.sh headunit $(ARMHF_DIR)-unit .
 
 lint: build
 	@sh tools/setup.sh lint
@@ -116,4 +118,4 @@ demo: build
 	@sh tools/demo.sh $(BUILD_DIR)
 
 clean:
-	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(ARMHF_DIR) $(UNIT_DIR)
+	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(ARMHF_DIR) $(ARMHF_DIR)-unit $(UNIT_DIR)
