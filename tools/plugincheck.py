@@ -151,6 +151,7 @@ def check(plugin, config, defines):
     classes = host_classes(config["host_headers"])
     readable = demangle(open_names)
     used = set()
+    bound = 0
     for name in open_names:
         owner = owning_class(readable[name], classes)
         if name not in host:
@@ -161,6 +162,7 @@ def check(plugin, config, defines):
                             % readable[name])
         else:
             used.add(owner)
+            bound += 1
 
     defined = demangle(sorted(symbols(config["nm"], plugin, "--defined-only")))
     for prefix in defines:
@@ -171,8 +173,7 @@ def check(plugin, config, defines):
     for problem in problems:
         print("%s: %s" % (plugin, problem))
     print("%s: needs %s; %d host symbols of %d classes (%s)%s"
-          % (label, " ".join(needed), len(open_names) - sum(1 for p in problems if "undefined" in p),
-             len(used), ", ".join(sorted(used)) or "none", ": FAILED" if problems else ""))
+          % (label, " ".join(needed), bound, len(used), ", ".join(sorted(used)) or "none", ": FAILED" if problems else ""))
     return not problems
 
 
