@@ -14,12 +14,22 @@
 # `make translations` brings translations/*.ts up to date with the code.
 # `make package` makes the bench's Debian package from the desktop build into
 # build/packages; `make package-armhf` the head unit's from the armhf build
-# into build-armhf/packages.
+# into build-armhf/packages, or, given a unit's kit
+# (`make package-armhf TOOLCHAIN=FILE SYSROOT=DIR`), from a build of only
+# what goes onto a unit, made with the kit into build-unit/packages.
+# `make test-armhf` makes such a unit build too, with Debian's armhf Qt
+# standing in for a kit, and checks its package as the suite checks the
+# armhf build's.
 
 BUILD_DIR ?= build
 SANITIZE_DIR ?= build-sanitize
 ARMHF_DIR ?= build-armhf
 ARMHF_SYSROOT ?= $(ARMHF_DIR)/sysroot
+# A unit's kit for make package-armhf: its toolchain file and its sysroot,
+# and where its build goes.
+TOOLCHAIN ?=
+SYSROOT ?=
+UNIT_DIR ?= build-unit
 JOBS ?= $(shell nproc)
 FUZZ_ROUNDS ?= 150
 
@@ -59,6 +69,15 @@ test-armhf:
 		-DCARCONTROL_ARMHF_SYSROOT=$(abspath $(ARMHF_SYSROOT)) -DCMAKE_CXX_FLAGS=-Werror
 	@cmake --build $(ARMHF_DIR) -j $(JOBS)
 	@cd $(ARMHF_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+	@# Beside build-armhf/, so that the compiler's cache knows the sysroot's
+	@# headers by the same relative paths and the plug-in's code is compiled once.
+	@cmake -S . -B $(ARMHF_DIR)-unit -DCARCONTROL_UNIT_ONLY=ON \
+		-DCMAKE_TOOLCHAIN_FILE=$(CURDIR)/cmake/armhf-toolchain.cmake \
+		-DCARCONTROL_ARMHF_SYSROOT=$(abspath $(ARMHF_SYSROOT)) -DCMAKE_CXX_FLAGS=-Werror
+	@cmake --build $(ARMHF_DIR)-unit -j $(JOBS)
+	@CARCONTROL_PLUGINCHECK_CONFIG=$(ARMHF_DIR)/plugincheck.json CARCONTROL_UNIT_LOADER=$(ARMHF_DIR)/tests/unitloader \
+		CARCONTROL_EMULATOR="qemu-arm -L $(abspath $(ARMHF_SYSROOT))" QT_QPA_PLATFORM=offscreen \
+		sh tests/package_check.sh headunit $(ARMHF_DIR)-unit .
 
 lint: build
 	@sh tools/setup.sh lint
@@ -76,11 +95,19 @@ check:
 package: build
 	@cd $(BUILD_DIR) && cpack
 
+ifeq ($(TOOLCHAIN)$(SYSROOT),)
 package-armhf:
 	@if [ ! -f $(ARMHF_DIR)/CPackConfig.cmake ]; then \
 		echo "make package-armhf: no armhf build in $(ARMHF_DIR); run 'make test-armhf' first" >&2; exit 1; fi
 	@cmake --build $(ARMHF_DIR) -j $(JOBS)
 	@cd $(ARMHF_DIR) && cpack
+else
+package-armhf:
+	@cmake -S . -B $(UNIT_DIR) -DCARCONTROL_UNIT_ONLY=ON \
+		$(if $(TOOLCHAIN),-DCMAKE_TOOLCHAIN_FILE=$(abspath $(TOOLCHAIN))) $(if $(SYSROOT),-DCMAKE_SYSROOT=$(abspath $(SYSROOT)))
+	@cmake --build $(UNIT_DIR) -j $(JOBS)
+	@cd $(UNIT_DIR) && cpack
+endif
 
 # Brings translations/*.ts up to date with the code (lupdate); translations
 # already made are kept, vanished texts marked obsolete.
@@ -91,4 +118,4 @@ demo: build
 	@sh tools/demo.sh $(BUILD_DIR)
 
 clean:
-	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(ARMHF_DIR)
+	@rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(ARMHF_DIR) $(ARMHF_DIR)-unit $(UNIT_DIR)

@@ -25,6 +25,23 @@ function(carcontrol_plugin_code target)
     endif()
 endfunction()
 
+# A module that the head unit's GUI process loads from its plug-in directory
+# (lib<target>.so). It carries all of its own code. What it uses of the
+# unit's closed libraries (the classes of host/) stays undefined and is bound
+# when the process loads it, from the libraries that the process already
+# has: on the unit its own, on the desktop the host that the simulator, the
+# tests and the tools link. It names no library of ours and no run path.
+# Binding everything at load (-z now) makes a missing host symbol fail the
+# load, with the loader's reason, instead of ending the process at the
+# first call. tools/plugincheck.py holds the module to this.
+function(carcontrol_head_unit_module target)
+    carcontrol_plugin_code(${target})
+    set_target_properties(${target} PROPERTIES
+        PREFIX "lib"
+        LIBRARY_OUTPUT_DIRECTORY "${CARCONTROL_PLUGIN_DIR}")
+    target_link_options(${target} PRIVATE "LINKER:-z,now")
+endfunction()
+
 # Every test runs headless, with the artwork that the build draws, and keeps
 # the head unit's saved settings in a folder of its own, so that tests run
 # side by side don't see each other's.

@@ -26,6 +26,9 @@ set_property(CACHE CARCONTROL_INSTALL_LAYOUT PROPERTY STRINGS headunit bench)
 if(NOT CARCONTROL_INSTALL_LAYOUT MATCHES "^(headunit|bench)$")
     message(FATAL_ERROR "CARCONTROL_INSTALL_LAYOUT is '${CARCONTROL_INSTALL_LAYOUT}': give headunit or bench")
 endif()
+if(CARCONTROL_UNIT_ONLY AND NOT CARCONTROL_INSTALL_LAYOUT STREQUAL "headunit")
+    message(FATAL_ERROR "unit build: the bench layout needs the simulator, which a unit build doesn't make")
+endif()
 
 # The head unit's GUI process loads its plug-ins from a directory of its own,
 # which differs between units; give it here if the unit's is another.
@@ -66,9 +69,10 @@ if(CARCONTROL_QM_FILES)
 endif()
 
 if(CARCONTROL_INSTALL_LAYOUT STREQUAL "bench")
-    # The installed programs and plug-ins find the desktop host beside them.
+    # The installed simulator finds the desktop host by a run path relative
+    # to itself; the plug-ins take the host's symbols from the simulator's
+    # process and need none.
     set_target_properties(headunit-sim PROPERTIES INSTALL_RPATH "$ORIGIN/../${CARCONTROL_BENCH_HOST_DIR}")
-    set_target_properties(carcontrol reversesample PROPERTIES INSTALL_RPATH "$ORIGIN/../host")
     install(TARGETS headunit-sim RUNTIME DESTINATION bin COMPONENT simulator)
     install(TARGETS carhost LIBRARY DESTINATION "${CARCONTROL_BENCH_HOST_DIR}" COMPONENT simulator)
     install(TARGETS reversesample LIBRARY DESTINATION "${CARCONTROL_INSTALL_PLUGIN_DIR}" COMPONENT simulator)

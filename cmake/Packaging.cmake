@@ -22,9 +22,12 @@ on the car's CAN bus.
 
 This package holds the plug-in that the head unit's GUI process loads
 (interface cantheme/0.1), its pictures and its translations, at the paths
-the head unit reads.")
-    # The unit's Qt (5.3) and its closed libraries come with the unit, not
-    # from Debian's packages: the package names none of them.
+the head unit reads. The plug-in was built with Qt ${Qt5Core_VERSION}: Qt loads it
+only into a process with Qt ${Qt5Core_VERSION_MAJOR}.${Qt5Core_VERSION_MINOR} or later, and a unit with an older
+Qt needs it built with the unit's own kit. It uses the unit's own
+libraries, which the unit's GUI process has loaded.")
+    # The unit's Qt and its closed libraries come with the unit, not from
+    # Debian's packages: the package names none of them.
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS OFF)
 else()
     set(CARCONTROL_PACKAGE carcontrol-bench)

@@ -5,6 +5,7 @@
 namespace {
 
 int fileReads = 0;
+QStringList unreadFiles;
 
 } // namespace
 
@@ -15,7 +16,10 @@ QImage loadImage(QString const &path)
     if (path.isEmpty())
         return QImage();
     ++fileReads;
-    return QImage(path);
+    QImage image(path);
+    if (image.isNull() && !unreadFiles.contains(path))
+        unreadFiles.append(path);
+    return image;
 }
 
 int imageFileReads()
@@ -23,9 +27,15 @@ int imageFileReads()
     return fileReads;
 }
 
+QStringList unreadImageFiles()
+{
+    return unreadFiles;
+}
+
 void resetImageFileReads()
 {
     fileReads = 0;
+    unreadFiles.clear();
 }
 
 } // namespace HostSim

@@ -128,8 +128,10 @@ void setFixedClock(QTime const &time);
 int touchSounds();
 
 // How many picture files the host's picture widgets (CustomImageButton,
-// CustomImageWidget) read since the last reset.
+// CustomImageWidget) read since the last reset, and those of them that gave
+// no picture (missing or unreadable), by path.
 int imageFileReads();
+QStringList unreadImageFiles();
 void resetImageFileReads();
 
 // The reverse plug-in that ThemeManager loads. Without a file set, the first

@@ -9,8 +9,15 @@
 #   package_check.sh headunit BUILD_DIR SOURCE_DIR
 #       checks the head unit's package: armhf, a 32-bit ARM plug-in, and
 #       every picture the plug-in's code names and every translation at
-#       their absolute paths.
-# Both run lintian on the package and fail on any error it reports.
+#       their absolute paths; then loads the packaged plug-in as the unit
+#       does: the program named by CARCONTROL_UNIT_LOADER (tests/unitloader),
+#       run by CARCONTROL_EMULATOR, loads it from the unpacked plug-in
+#       directory with the unpacked pictures and translations.
+# Both run lintian on the package and fail on any error it reports, and hold
+# the packaged plug-in to tools/plugincheck.py with the build's
+# plugincheck.json (or the one CARCONTROL_PLUGINCHECK_CONFIG names, for a
+# build of only what goes onto a unit, which has no host); no program or library of the package has a run path
+# into the build tree.
 set -eu
 
 kind=$1
@@ -40,6 +47,18 @@ fi
 root="$work/root"
 dpkg-deb -x "$deb" "$root"
 
+plugin=$(find "$root" -name libcarcontrol.so | head -n 1)
+[ -n "$plugin" ] || fail "no libcarcontrol.so in the package"
+python3 "$source/tools/plugincheck.py" --config "${CARCONTROL_PLUGINCHECK_CONFIG:-$build/plugincheck.json}" "$plugin" \
+    || fail "the packaged plug-in doesn't load as the head unit loads it"
+for file in $(find "$root" -type f); do
+    if od -An -c -N4 "$file" | grep -q 'E   L   F'; then
+        if readelf -d "$file" 2>/dev/null | grep -E 'R(UN)?PATH' | grep -q "$build"; then
+            fail "$file has a run path into the build tree"
+        fi
+    fi
+done
+
 case $kind in
 bench)
     sim="$root/usr/bin/headunit-sim"
@@ -64,8 +83,6 @@ bench)
 headunit)
     arch=$(dpkg-deb -f "$deb" Architecture)
     [ "$arch" = armhf ] || fail "Architecture is $arch, not armhf"
-    plugin=$(find "$root" -name libcarcontrol.so | head -n 1)
-    [ -n "$plugin" ] || fail "no libcarcontrol.so in the package"
     # ELF class 1 (32-bit) at byte 4, machine 40 (ARM) at bytes 18 and 19.
     header=$(od -An -tu1 -j4 -N1 "$plugin" | tr -d ' ')
     machine=$(od -An -tu2 -j18 -N2 "$plugin" | tr -d ' ')
@@ -87,6 +104,10 @@ headunit)
         [ -f "$root$resources/$file" ] || { echo "missing: $resources/$file" >&2; missing=1; }
     done
     [ "$missing" = 0 ] || fail "pictures or translations missing from the package"
+    # The unit's process in small loads the plug-in from the package.
+    [ -n "${CARCONTROL_UNIT_LOADER:-}" ] || fail "CARCONTROL_UNIT_LOADER names no loader"
+    ${CARCONTROL_EMULATOR:-} "$CARCONTROL_UNIT_LOADER" "$(dirname "$plugin")" "$root$resources" \
+        || fail "the plug-in doesn't load from the package"
     ;;
 *)
     fail "unknown kind $kind"
