@@ -60,7 +60,22 @@ TERMS = [
     ('橫屏', '橫式螢幕'),
     ('分屏', '分割畫面'),
     ('屏(?!蔽)', '螢幕'),
+    ('自定義', '自訂'),
+    ('復位', '重設'),
+    ('坡道起步', '上坡起步'),
 ]
+
+
+def traditional(texts):
+    """The texts, each of one line, in Taiwan's Traditional Chinese."""
+    converted = subprocess.run(['opencc', '-c', 's2twp.json'], input='\n'.join(texts) + '\n',
+                               capture_output=True, text=True, check=True).stdout.split('\n')[:len(texts)]
+    result = []
+    for text in converted:
+        for old, new in TERMS:
+            text = re.sub(old, new, text)
+        result.append(text)
+    return result
 
 
 def main():
@@ -69,17 +84,8 @@ def main():
     texts = [m.group(2) for m in pattern.finditer(source)]
     if any('\n' in text for text in texts):
         sys.exit('traditional.py: a translation of more than one line; convert it by hand')
-    converted = subprocess.run(['opencc', '-c', 's2twp.json'], input='\n'.join(texts) + '\n',
-                               capture_output=True, text=True, check=True).stdout.split('\n')
-    converted = iter(converted[:len(texts)])
-
-    def traditional(match):
-        text = next(converted)
-        for old, new in TERMS:
-            text = re.sub(old, new, text)
-        return match.group(1) + text + match.group(3)
-
-    target = pattern.sub(traditional, source)
+    converted = iter(traditional(texts))
+    target = pattern.sub(lambda m: m.group(1) + next(converted) + m.group(3), source)
     target = target.replace('<TS version="2.1" language="zh_CN">', '<TS version="2.1" language="zh_TW">', 1)
     (TRANSLATIONS / 'carcontrol_zh_TW.ts').write_text(target, encoding='utf-8')
 

@@ -17781,11 +17781,11 @@
     </message>
     <message>
         <source>0~180min</source>
-        <translation>0~180min</translation>
+        <translation>0~180分钟</translation>
     </message>
     <message>
         <source>0~60min</source>
-        <translation>0~60min</translation>
+        <translation>0~60分钟</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>

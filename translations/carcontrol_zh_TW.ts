@@ -3699,7 +3699,7 @@
     </message>
     <message>
         <source>Off-road ramp start</source>
-        <translation>越野坡道起步</translation>
+        <translation>越野上坡起步</translation>
     </message>
     <message>
         <source>Off-road turn to</source>
@@ -3995,7 +3995,7 @@
     </message>
     <message>
         <source>customize</source>
-        <translation>自定義</translation>
+        <translation>自訂</translation>
     </message>
     <message>
         <source>dark blue</source>
@@ -4396,7 +4396,7 @@
     <name>CarInfoItem28_6</name>
     <message>
         <source>Reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
     <message>
         <source>Front left tire</source>
@@ -7264,7 +7264,7 @@
     </message>
     <message>
         <source>Ramp start assist</source>
-        <translation>坡道起步輔助</translation>
+        <translation>上坡起步輔助</translation>
     </message>
     <message>
         <source>Rear seat reminder</source>
@@ -8744,7 +8744,7 @@
     <name>CarInfoItem48_5</name>
     <message>
         <source>Reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
     <message>
         <source>All round</source>
@@ -8772,7 +8772,7 @@
     </message>
     <message>
         <source>Reset all</source>
-        <translation>全部復位</translation>
+        <translation>全部重設</translation>
     </message>
     <message>
         <source>Sound effect mode</source>
@@ -9425,7 +9425,7 @@
     </message>
     <message>
         <source>Ramp start assist</source>
-        <translation>坡道起步輔助</translation>
+        <translation>上坡起步輔助</translation>
     </message>
     <message>
         <source>Rear view keep</source>
@@ -10461,15 +10461,15 @@
     </message>
     <message>
         <source>Air preconditioning custom-AM</source>
-        <translation>空氣預調節自定義-上午</translation>
+        <translation>空氣預調節自訂-上午</translation>
     </message>
     <message>
         <source>Air preconditioning custom-Night</source>
-        <translation>空氣預調節自定義-夜間</translation>
+        <translation>空氣預調節自訂-夜間</translation>
     </message>
     <message>
         <source>Air preconditioning custom-PM</source>
-        <translation>空氣預調節自定義-下午</translation>
+        <translation>空氣預調節自訂-下午</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -10581,15 +10581,15 @@
     </message>
     <message>
         <source>Custom</source>
-        <translation>自定義</translation>
+        <translation>自訂</translation>
     </message>
     <message>
         <source>Custom driving mode-Power mode</source>
-        <translation>自定義駕駛模式-動力模式</translation>
+        <translation>自訂駕駛模式-動力模式</translation>
     </message>
     <message>
         <source>Custom driving mode-steering mode</source>
-        <translation>自定義駕駛模式-轉向模式</translation>
+        <translation>自訂駕駛模式-轉向模式</translation>
     </message>
     <message>
         <source>Dim while driving</source>
@@ -10924,7 +10924,7 @@
     <name>CarInfoItem64_5</name>
     <message>
         <source>reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
     <message>
         <source>Front left tire pressure temperature</source>
@@ -11088,7 +11088,7 @@
     </message>
     <message>
         <source>Tire pressure reset settings</source>
-        <translation>胎壓復位設定</translation>
+        <translation>胎壓重設設定</translation>
     </message>
     <message>
         <source>have</source>
@@ -13149,7 +13149,7 @@
     </message>
     <message>
         <source>Vehicle settings-drive mode reset</source>
-        <translation>車輛設定-駕駛模式復位</translation>
+        <translation>車輛設定-駕駛模式重設</translation>
     </message>
     <message>
         <source>driving mode</source>
@@ -13314,7 +13314,7 @@
     <name>CarInfoItem67_8</name>
     <message>
         <source>reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
     <message>
         <source>ECO level</source>
@@ -14664,11 +14664,11 @@
     </message>
     <message>
         <source>Driving maintenance-tire pressure reset</source>
-        <translation>行車保養-胎壓復位</translation>
+        <translation>行車保養-胎壓重設</translation>
     </message>
     <message>
         <source>reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
 </context>
 <context>
@@ -14851,7 +14851,7 @@
     </message>
     <message>
         <source>Driving maintenance-tire pressure reset</source>
-        <translation>行車保養-胎壓復位</translation>
+        <translation>行車保養-胎壓重設</translation>
     </message>
     <message>
         <source>English</source>
@@ -14951,7 +14951,7 @@
     </message>
     <message>
         <source>reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
     <message>
         <source>start</source>
@@ -15998,7 +15998,7 @@
     <name>CarInfoItem72_7</name>
     <message>
         <source>CUSTOM</source>
-        <translation>自定義</translation>
+        <translation>自訂</translation>
     </message>
     <message>
         <source>Intake air temperature</source>
@@ -16010,15 +16010,15 @@
     </message>
     <message>
         <source>State under custom-comfort air conditioning</source>
-        <translation>自定義狀態-舒適空調</translation>
+        <translation>自訂狀態-舒適空調</translation>
     </message>
     <message>
         <source>State under custom-dynamic response</source>
-        <translation>自定義狀態-動力響應</translation>
+        <translation>自訂狀態-動力響應</translation>
     </message>
     <message>
         <source>State under custom-steering feel</source>
-        <translation>自定義狀態-轉向手感</translation>
+        <translation>自訂狀態-轉向手感</translation>
     </message>
     <message>
         <source>coolant temperature</source>
@@ -16109,7 +16109,7 @@
     </message>
     <message>
         <source>reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
 </context>
 <context>
@@ -17682,7 +17682,7 @@
     </message>
     <message>
         <source>User</source>
-        <translation>自定義</translation>
+        <translation>自訂</translation>
     </message>
     <message>
         <source>Vocal</source>
@@ -17781,11 +17781,11 @@
     </message>
     <message>
         <source>0~180min</source>
-        <translation>0~180min</translation>
+        <translation>0~180分鐘</translation>
     </message>
     <message>
         <source>0~60min</source>
-        <translation>0~60min</translation>
+        <translation>0~60分鐘</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -18014,11 +18014,11 @@
     </message>
     <message>
         <source>LCD meter custom mode(left)</source>
-        <translation>液晶儀表自定義模式（左）</translation>
+        <translation>液晶儀表自訂模式（左）</translation>
     </message>
     <message>
         <source>LCD meter custom mode(right)</source>
-        <translation>液晶儀表自定義模式（右）</translation>
+        <translation>液晶儀表自訂模式（右）</translation>
     </message>
     <message>
         <source>Low</source>
@@ -19724,11 +19724,11 @@
     <name>TirePressure</name>
     <message>
         <source>When the pressure of all 4 tires are checked correctly and there is no problem, please click Reset</source>
-        <translation>四個輪胎的胎壓均已檢查正常且無問題時，請點選復位</translation>
+        <translation>四個輪胎的胎壓均已檢查正常且無問題時，請點選重設</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>復位</translation>
+        <translation>重設</translation>
     </message>
 </context>
 </TS>
