@@ -5,7 +5,7 @@
     <name>CarControlView</name>
     <message>
         <source>No model currently selected, please select a model in factory settings</source>
-        <translation>當前未選擇車型，請在工廠設定中選擇車型</translation>
+        <translation>目前未選擇車型，請在工廠設定中選擇車型</translation>
     </message>
     <message>
         <source>This model does not support the air conditioning function</source>
@@ -1273,11 +1273,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -1738,11 +1738,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -2203,11 +2203,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -2644,7 +2644,7 @@
     </message>
     <message>
         <source>Current audio selection status of decoding box</source>
-        <translation>解碼盒當前音源選擇狀態</translation>
+        <translation>解碼盒目前音源選擇狀態</translation>
     </message>
     <message>
         <source>Engine speed</source>
@@ -3583,7 +3583,7 @@
     </message>
     <message>
         <source>MFD-current fuel consumption</source>
-        <translation>MFD-當前油耗</translation>
+        <translation>MFD-目前油耗</translation>
     </message>
     <message>
         <source>MFD-digital speed display</source>
@@ -3887,7 +3887,7 @@
     </message>
     <message>
         <source>Tange assign the key to the current user account</source>
-        <translation>將鑰匙分配給當前使用者帳戶</translation>
+        <translation>將鑰匙分配給目前使用者帳戶</translation>
     </message>
     <message>
         <source>Tange key distribution</source>
@@ -5250,7 +5250,7 @@
     </message>
     <message>
         <source>Current volume</source>
-        <translation>當前音量</translation>
+        <translation>目前音量</translation>
     </message>
     <message>
         <source>FAD indicator</source>
@@ -5685,35 +5685,35 @@
     </message>
     <message>
         <source>Current frequency</source>
-        <translation>當前頻率</translation>
+        <translation>目前頻率</translation>
     </message>
     <message>
         <source>Current frequency-band</source>
-        <translation>當前頻率-波段</translation>
+        <translation>目前頻率-波段</translation>
     </message>
     <message>
         <source>Current frequency-preset station number</source>
-        <translation>當前頻率-預設電臺號</translation>
+        <translation>目前頻率-預設電臺號</translation>
     </message>
     <message>
         <source>Current frequency-scan status</source>
-        <translation>當前頻率-搜尋狀態</translation>
+        <translation>目前頻率-搜尋狀態</translation>
     </message>
     <message>
         <source>Current frequency-stereo state</source>
-        <translation>當前頻率-立體聲狀態</translation>
+        <translation>目前頻率-立體聲狀態</translation>
     </message>
     <message>
         <source>Current track</source>
-        <translation>當前曲目</translation>
+        <translation>目前曲目</translation>
     </message>
     <message>
         <source>Currently selected disc number</source>
-        <translation>當前所選碟號</translation>
+        <translation>目前所選碟號</translation>
     </message>
     <message>
         <source>Currently selected disc number1</source>
-        <translation>當前所選碟號1</translation>
+        <translation>目前所選碟號1</translation>
     </message>
     <message>
         <source>DISC</source>
@@ -5837,7 +5837,7 @@
     </message>
     <message>
         <source>current time</source>
-        <translation>當前時間</translation>
+        <translation>目前時間</translation>
     </message>
     <message>
         <source>play in order</source>
@@ -5900,11 +5900,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -6333,11 +6333,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -8375,11 +8375,11 @@
     </message>
     <message>
         <source>CD-current time</source>
-        <translation>CD-當前時間</translation>
+        <translation>CD-目前時間</translation>
     </message>
     <message>
         <source>CD-current track</source>
-        <translation>CD-當前曲目</translation>
+        <translation>CD-目前曲目</translation>
     </message>
     <message>
         <source>CD-total repertoire</source>
@@ -8486,23 +8486,23 @@
     </message>
     <message>
         <source>Current SYNC System Version</source>
-        <translation>當前SYNC系統版本</translation>
+        <translation>目前SYNC系統版本</translation>
     </message>
     <message>
         <source>Current dialog type</source>
-        <translation>當前對話方塊類型</translation>
+        <translation>目前對話方塊類型</translation>
     </message>
     <message>
         <source>Current menu type</source>
-        <translation>當前選單類型</translation>
+        <translation>目前選單類型</translation>
     </message>
     <message>
         <source>Current row attributes</source>
-        <translation>當前行屬性</translation>
+        <translation>目前行屬性</translation>
     </message>
     <message>
         <source>Current row attributes-SelectRow</source>
-        <translation>當前行屬性-選中行</translation>
+        <translation>目前行屬性-選中行</translation>
     </message>
     <message>
         <source>DOWN</source>
@@ -8518,7 +8518,7 @@
     </message>
     <message>
         <source>Large icon of current menu</source>
-        <translation>當前選單大圖示</translation>
+        <translation>目前選單大圖示</translation>
     </message>
     <message>
         <source>Line number</source>
@@ -8602,7 +8602,7 @@
     </message>
     <message>
         <source>SYNC current working mode</source>
-        <translation>SYNC當前工作模式</translation>
+        <translation>SYNC目前工作模式</translation>
     </message>
     <message>
         <source>SYNC device presence bit</source>
@@ -8614,7 +8614,7 @@
     </message>
     <message>
         <source>Selected item in current dialog</source>
-        <translation>當前對話方塊選中項</translation>
+        <translation>目前對話方塊選中項</translation>
     </message>
     <message>
         <source>Show SMS icon</source>
@@ -8622,7 +8622,7 @@
     </message>
     <message>
         <source>The currently selected item in the menu</source>
-        <translation>選單當前選中項</translation>
+        <translation>選單目前選中項</translation>
     </message>
     <message>
         <source>Track play time</source>
@@ -9635,11 +9635,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -10187,11 +10187,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -11548,11 +11548,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -12013,11 +12013,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -12263,11 +12263,11 @@
     </message>
     <message>
         <source>Current is backward view</source>
-        <translation>當前為後視</translation>
+        <translation>目前為後視</translation>
     </message>
     <message>
         <source>Current is forward view</source>
-        <translation>當前為前視</translation>
+        <translation>目前為前視</translation>
     </message>
     <message>
         <source>Enter</source>
@@ -13604,11 +13604,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -14069,11 +14069,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -14534,11 +14534,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -16263,11 +16263,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -16728,11 +16728,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -17193,11 +17193,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -17911,7 +17911,7 @@
     </message>
     <message>
         <source>Trip computer currently displayed page</source>
-        <translation>行車電腦當前顯示頁</translation>
+        <translation>行車電腦目前顯示頁</translation>
     </message>
     <message>
         <source>average speed</source>
@@ -18384,7 +18384,7 @@
     </message>
     <message>
         <source>Trip computer currently displayed page</source>
-        <translation>行車電腦當前顯示頁</translation>
+        <translation>行車電腦目前顯示頁</translation>
     </message>
     <message>
         <source>Unlock the trunk only</source>
@@ -18783,11 +18783,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
@@ -19248,11 +19248,11 @@
     </message>
     <message>
         <source>Current car window</source>
-        <translation>當前車窗</translation>
+        <translation>目前車窗</translation>
     </message>
     <message>
         <source>Current window status</source>
-        <translation>當前車窗狀態</translation>
+        <translation>目前車窗狀態</translation>
     </message>
     <message>
         <source>Driving position</source>
