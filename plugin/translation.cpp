@@ -44,21 +44,24 @@ void followLocale()
     // Owned by the application, so that it lives as long as the texts it
     // translates.
     static QPointer<QTranslator> translator;
-    static QString loadedLocale;
+    static QString loadedLanguages;
     const QLocale locale;
-    // By its whole name: zh_Hans_HK and zh_Hant_HK share the name zh_HK.
-    if (translator && locale.bcp47Name() == loadedLocale)
+    // A locale is looked up by its UI languages: zh_Hans_HK and zh_Hant_HK
+    // share the name zh_HK, C and en_US the BCP 47 name en.
+    const QString languages = locale.uiLanguages().join(QLatin1Char(','));
+    if (translator && languages == loadedLanguages)
         return;
     if (!translator)
         translator = new QTranslator(QCoreApplication::instance());
     else
         QCoreApplication::removeTranslator(translator);
-    loadedLocale = locale.bcp47Name();
+    loadedLanguages = languages;
+    const QString named = locale.name() + QStringLiteral(" (") + languages + QLatin1Char(')');
     if (loadTranslation(translator, locale) || loadTranslationOfScript(translator, locale)) {
         QCoreApplication::installTranslator(translator);
-        CAR_LOG("Translation") << "texts in" << loadedLocale;
+        CAR_LOG("Translation") << "texts for" << qPrintable(named);
     } else {
-        CAR_LOG("Translation") << "no translation for" << loadedLocale << "in" << translationsPath()
+        CAR_LOG("Translation") << "no translation for" << qPrintable(named) << "in" << qPrintable(translationsPath())
                                << "- source texts";
     }
 }

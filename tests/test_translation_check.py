@@ -24,6 +24,7 @@ CATALOGUE = {'families': [{'pages': [
     {'class': 'CarInfoItem1_2', 'rows': [
         {'title': 'Energy recovery class', 'options': ['light', 'middle', 'powerful']},
         {'title': 'Take me home', 'options': ['30s', '1m', '5m']},
+        {'title': 'Indoor lamp time', 'options': ['10m', '15m']},
         {'title': 'Current', 'options': ['6 amp', '10A']},
         {'title': 'Departure hour', 'options': [0, 23]},
         {'title': 'Bass', 'options': ['Low', 'Medium']},
@@ -39,7 +40,7 @@ RIGHT = {
                        'light': '灯光', 'Monday': '星期一', 'Cancel': '未选', 'Check': '已选', 'Medium': '中音'},
     'CarInfoItem1_2': {'Energy recovery class': '能量回收等级', 'light': '弱', 'middle': '中', 'powerful': '强',
                        'Take me home': '伴我回家', '30s': '30s', '1m': '1分钟', '5m': '5分钟',
-                       'Current': '电流', '6 amp': '6A', '10A': '10A', 'Departure hour': '出发时间（时）',
+                       'Indoor lamp time': '室内灯时间', '10m': '10分钟', '15m': '15分钟', 'Current': '电流', '6 amp': '6A', '10A': '10A', 'Departure hour': '出发时间（时）',
                        'Bass': '低音', 'Low': '低', 'Medium': '中', 'Drive mode': '驾驶模式',
                        'COMFORT': '舒适', 'ECO': 'ECO'},
     'CarInfoItem1_3': {'Function recognition': '功能识别', 'width light': '示宽灯', 'light': '灯光',
@@ -93,6 +94,8 @@ class TranslationCheckTest(unittest.TestCase):
             # The amplifier's band as a title and a level as an option.
             ({('CarInfoItem1_1', 'Medium'): '中'}, 'alike: "Medium" is 中 in rows of 2 kinds'),
             ({('CarInfoItem1_2', '5m'): '5m'}, 'units: CarInfoItem1_2 "5m" is 5m, minutes'),
+            # Minutes of a row titled a time, with no seconds beside them.
+            ({('CarInfoItem1_2', '10m'): '10m'}, 'units: CarInfoItem1_2 "10m" is 10m, minutes'),
             ({('CarInfoItem1_2', '6 amp'): '6安'}, 'units: CarInfoItem1_2 "6 amp" is 6安'),
             ({('CarInfoItem1_2', 'Departure hour'): '出发时间(时)'}, 'brackets: CarInfoItem1_2 "Departure hour"'),
             ({('CarInfoItem1_2', 'COMFORT'): 'COMFORT'}, 'latin: CarInfoItem1_2 "COMFORT" is COMFORT'),

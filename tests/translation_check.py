@@ -12,7 +12,8 @@ page's rows, their titles and options):
   energy recovery (light, middle, powerful) is one word with two meanings
   and one translation. Two uses are of one kind when both are row titles,
   or both options of rows that share another option. What a person has
-  looked at and kept is listed in translations/alike-kept.txt;
+  looked at and kept is listed in translations/alike-kept.txt, with both
+  translations and the reason;
 - units: currents as 10A, minutes as 分钟 or 1分30秒 (a bare "5m" among
   seconds reads as five metres), Chinese in full-width brackets;
 - Latin words: only those that the glossary keeps (its "Kept:" line).
@@ -69,14 +70,19 @@ class Use:
     """A text as one row shows it: its page's class, and whether it is the
     row's title or one of its options (with the row's other options)."""
 
-    def __init__(self, context, title, siblings):
+    def __init__(self, context, title, siblings, row=''):
         self.context = context
         self.title = title
         self.siblings = siblings
+        self.row = row
 
     def same_kind(self, other):
         if self.title or other.title:
             return self.title and other.title
+        # Rows of a single option (a lamp of the energy flow that is lit or
+        # not) are of one kind.
+        if not self.siblings and not other.siblings:
+            return True
         return bool(self.siblings & other.siblings)
 
 
@@ -91,7 +97,7 @@ def read_uses(catalogue):
                 uses[row['title']].append(Use(context, True, frozenset()))
                 for option in options:
                     siblings = frozenset(o.lower() for o in options if o != option)
-                    uses[option].append(Use(context, False, siblings))
+                    uses[option].append(Use(context, False, siblings, row['title']))
     return uses
 
 
@@ -129,11 +135,13 @@ def alike(messages, uses, kept):
 
 def units(messages, uses):
     faults = []
+    # "5m" is minutes in a row of times: beside seconds, or titled a time.
     minute_options = set()
     for source, its_uses in uses.items():
         if re.fullmatch(r'\d+m', source):
             for use in its_uses:
-                if any(re.fullmatch(r'\d+s|\d+ ?min.*', s) for s in use.siblings):
+                if any(re.fullmatch(r'\d+s|\d+ ?min.*', s) for s in use.siblings) \
+                        or re.search(r'\b(time|delay|duration|timer)\b', use.row, re.I):
                     minute_options.add((use.context, source))
     for (context, source), translation in sorted(messages.items()):
         where = '%s "%s" is %s' % (context, source, translation)
