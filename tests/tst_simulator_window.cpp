@@ -372,9 +372,10 @@ void TestSimulatorWindow::languagePicker()
 {
     auto *picker = m_window->findChild<QComboBox *>("languagePicker");
     QVERIFY(picker);
-    QCOMPARE(picker->count(), 2);
+    QCOMPARE(picker->count(), 3);
     QCOMPARE(picker->itemData(0).toString(), QString("C"));
     QCOMPARE(picker->itemData(1).toString(), QString("zh_CN"));
+    QCOMPARE(picker->itemData(2).toString(), QString("zh_TW"));
     auto secondTitle = [this] {
         return m_host->probe().titleList()->model()->index(1, 0).data(Qt::DisplayRole).toString();
     };

@@ -1,14 +1,23 @@
 // The translations: every message of every .ts file finished, with the
-// placeholders of its source text; and every page title and text option
-// measured with the font and the room that the row painter gives it, in
-// each language and in the source texts.
+// placeholders of its source text; and every text a page shows measured
+// with the font and the room that its painter gives it, in each language and
+// in the source texts: the titles in the list of pages, each row's title and
+// text options, and the texts of the pages that make their own buttons.
 
+#include "appframework.h"
 #include "carexviewbase.h"
 #include "carinfoitem.h"
 #include "catalogue.h"
+#include "cdbutton.h"
+#include "exview.h"
 #include "hostsim.h"
 #include "listdata.h"
+#include "listview.h"
 #include "tableview.h"
+#include "translation.h"
+
+#include <QAbstractButton>
+#include <QLabel>
 
 #include <QDir>
 #include <QFontMetrics>
@@ -117,30 +126,131 @@ bool fits(QFont const &font, QRect const &room, int flags, QString const &text)
     return needed.width() <= room.width() && needed.height() <= room.height();
 }
 
-// Every title and text option of every page of every protocol that the row
-// painter would clip, as "page: text", once each.
-QStringList clippedTexts()
+// What doesn't fit, as "where: text", once each.
+class Clipped
 {
-    QStringList clipped;
-    QSet<QString> seen;
-    auto note = [&](QString const &page, QString const &text) {
-        const QString line = page + QStringLiteral(": ") + text;
+public:
+    void note(QString const &where, QString const &text)
+    {
+        const QString line = where + QStringLiteral(": ") + text;
         if (!seen.contains(line)) {
             seen.insert(line);
-            clipped << line;
+            lines << line;
         }
-    };
+    }
+    void noteUnless(bool fits, QString const &where, QString const &text)
+    {
+        if (!fits)
+            note(where, text);
+    }
+
+    QStringList lines;
+    // How many texts were measured: of the page lists, of the pages' own
+    // buttons and labels.
+    int listTitles = 0;
+    int ownTexts = 0;
+
+private:
+    QSet<QString> seen;
+};
+
+// The list of the family's pages, as the extended view shows it: each title
+// on one line, in the host painter's font, beside the entry's icons.
+void measurePageList(int id, Clipped *clipped)
+{
+    HostSim::screen()->show();
+    std::unique_ptr<ExView> view(
+        new ExView(zorvappframework::UIManager::getUIHerarchy(zorvappframework::UIHerarchyLevel1)));
+    view->show();
+    ListView *list = view->findChild<ListView *>(QStringLiteral("listView"));
+    if (!list)
+        return;
+    const QString where = QStringLiteral("page list %1").arg(id);
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
+        const QModelIndex index = list->model()->index(row, 0);
+        QFont font = list->viewport()->font();
+        font.setFamily(QStringLiteral("DejaVu Sans"));
+        font.setPixelSize(qMax(1, index.data(TitleFontSizeRole).toInt()));
+        int textX = index.data(TextXRole).toInt();
+        if (QPixmap const *icon = presentPixmap(index.data(LeftIconRole)))
+            textX = icon->width() + index.data(LeftIconXRole).toInt() + 10;
+        int right = list->viewport()->width();
+        if (QPixmap const *icon = presentPixmap(index.data(RightIconRole)))
+            right -= icon->width() + index.data(RightIconMarginRole).toInt();
+        const QString title = index.data(Qt::DisplayRole).toString();
+        ++clipped->listTitles;
+        clipped->noteUnless(fits(font, QRect(0, 0, right - textX, list->verticalHeader()->defaultSectionSize()),
+                                 Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title),
+                            where, title);
+    }
+}
+
+// A page's rows: the title in the left half, each text option on the
+// value's backdrop.
+void measureRows(QString const &where, TableView *view, Clipped *clipped)
+{
+    for (int row = 0; row < view->model()->rowCount(); ++row) {
+        const QModelIndex index = view->model()->index(row, 0);
+        const Room room = roomOf(view, index);
+        const QString title = index.data(TitleRole).toString();
+        clipped->noteUnless(fits(room.titleFont, room.title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, title),
+                            where, title);
+        const QVariantList options = index.data(OptionsRole).toList();
+        for (QVariant const &option : options) {
+            if (option.type() == QVariant::String)
+                clipped->noteUnless(fits(room.valueFont, room.value, room.valueFlags, option.toString()), where,
+                                    option.toString());
+        }
+    }
+}
+
+// The buttons and labels that a page makes itself: a flat button's text at
+// its share of the button's height, wrapped; a label or Qt button's in its
+// own font.
+void measureOwnWidgets(QString const &where, QWidget *page, Clipped *clipped)
+{
+    const QList<CDButton *> buttons = page->findChildren<CDButton *>();
+    for (CDButton *button : buttons) {
+        QFont font = button->font();
+        font.setPixelSize(qMax(1, int(button->height() * button->textScale())));
+        ++clipped->ownTexts;
+        clipped->noteUnless(fits(font, button->rect(), Qt::AlignCenter | Qt::TextWordWrap, button->text()), where,
+                            button->text());
+    }
+    const QList<QLabel *> labels = page->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        if (label->isVisible() && !label->text().isEmpty() && ++clipped->ownTexts)
+            clipped->noteUnless(fits(label->font(), label->contentsRect(),
+                                     int(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0),
+                                     label->text()),
+                                where, label->text());
+    }
+    const QList<QAbstractButton *> qtButtons = page->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : qtButtons) {
+        if (button->isVisible() && !button->text().isEmpty() && ++clipped->ownTexts)
+            clipped->noteUnless(fits(button->font(), button->contentsRect(), Qt::AlignCenter, button->text()),
+                                where, button->text());
+    }
+}
+
+// Every text of every page of every protocol that its painter would clip.
+Clipped clippedTexts()
+{
+    Clipped clipped;
     const QList<int> ids = Catalogue::protocolIds();
     for (int id : ids) {
         HostSim::reset();
         HostSim::setProtocolId(id);
+        measurePageList(id, &clipped);
         QWidget window;
         window.resize(1024, 470);
         std::unique_ptr<CarExViewBase> stack(createPageStack(id, &window));
         stack->setGeometry(window.rect());
         window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            return {QStringLiteral("no window")};
+        if (!QTest::qWaitForWindowExposed(&window)) {
+            clipped.note(QStringLiteral("no window"), QString::number(id));
+            return clipped;
+        }
         for (int i = 0; i < stack->count(); ++i) {
             CarInfoItem *page = qobject_cast<CarInfoItem *>(stack->widget(i));
             if (!page)
@@ -148,23 +258,11 @@ QStringList clippedTexts()
             stack->setCurrentIndex(i);
             page->createView();
             QCoreApplication::processEvents();
-            TableView *view = page->findChild<TableView *>();
-            if (!view)
-                continue;
             const QString name = QString::fromLatin1(page->metaObject()->className());
-            for (int row = 0; row < view->model()->rowCount(); ++row) {
-                const QModelIndex index = view->model()->index(row, 0);
-                const Room room = roomOf(view, index);
-                const QString title = index.data(TitleRole).toString();
-                if (!fits(room.titleFont, room.title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, title))
-                    note(name, title);
-                const QVariantList options = index.data(OptionsRole).toList();
-                for (QVariant const &option : options) {
-                    if (option.type() == QVariant::String
-                        && !fits(room.valueFont, room.value, room.valueFlags, option.toString()))
-                        note(name, option.toString());
-                }
-            }
+            if (TableView *view = page->findChild<TableView *>())
+                measureRows(name, view, &clipped);
+            else
+                measureOwnWidgets(name, page, &clipped);
         }
     }
     HostSim::reset();
@@ -200,6 +298,13 @@ QStringList tsFiles()
     for (QString const &name : names)
         files << QStringLiteral(TRANSLATIONS_SOURCE_DIR "/") + name;
     return files;
+}
+
+QStringList logLines;
+
+void keepLogLine(QtMsgType, QMessageLogContext const &, QString const &line)
+{
+    logLines << line;
 }
 
 } // namespace
@@ -238,10 +343,15 @@ private slots:
     // Counted, not a fault.
     void sourceTextsMeasured()
     {
-        const QStringList clipped = clippedTexts();
+        const Clipped measured = clippedTexts();
+        QStringList const &clipped = measured.lines;
         qInfo("source texts that the row painter clips: %d", int(clipped.size()));
         for (QString const &line : clipped)
             qInfo("  %s", qPrintable(line));
+        // The page lists and the pages that make their own buttons were
+        // measured too.
+        QVERIFY(measured.listTitles > 100);
+        QVERIFY(measured.ownTexts > 0);
     }
 
     // Every text that the pages translate has its translation, and every
@@ -262,7 +372,7 @@ private slots:
         QVERIFY(translator.load(QStringLiteral("carcontrol_") + language,
                                 qEnvironmentVariable("CARCONTROL_RESOURCE_ROOT") + QStringLiteral("/translations")));
         QCoreApplication::installTranslator(&translator);
-        const QStringList clipped = clippedTexts();
+        const QStringList clipped = clippedTexts().lines;
         QCoreApplication::removeTranslator(&translator);
         QStringList missing = translator.missing.values();
         missing.sort();
@@ -270,6 +380,49 @@ private slots:
                                                .arg(missing.size()) + missing.join(QLatin1Char('\n'))));
         QVERIFY2(clipped.isEmpty(), qPrintable(QStringLiteral("%1 texts clipped:\n").arg(clipped.size())
                                                + clipped.join(QLatin1Char('\n'))));
+    }
+
+    // The file a locale reads: its own; else, for Chinese, the file of its
+    // script (Simplified: zh_CN, Traditional: zh_TW); else none, and the
+    // source texts with one line in the log, however often the root asks.
+    void localeFindsItsFile_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("shown");
+        const QString simplified = QStringLiteral("功放状态");
+        const QString traditional = QStringLiteral("擴大機狀態");
+        const QString source = QStringLiteral("Amplifier status");
+        const struct
+        {
+            const char *locale;
+            QString shown;
+        } cases[] = {
+            {"zh_CN", simplified},      {"zh", simplified},         {"zh_SG", simplified},
+            {"zh_Hans_SG", simplified}, {"zh_Hans_HK", simplified}, {"zh_TW", traditional},
+            {"zh_HK", traditional},     {"zh_MO", traditional},     {"zh_Hant_HK", traditional},
+            {"zh_Hant_CN", traditional}, {"de_DE", source},         {"en_US", source},
+        };
+        for (auto const &c : cases)
+            QTest::newRow(c.locale) << QString::fromLatin1(c.locale) << c.shown;
+    }
+    void localeFindsItsFile()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, shown);
+        QLocale::setDefault(QLocale(locale));
+        logLines.clear();
+        const QtMessageHandler previous = qInstallMessageHandler(keepLogLine);
+        followLocale();
+        followLocale();
+        qInstallMessageHandler(previous);
+        const QString text = QCoreApplication::translate("CarExView28", "Amplifier status");
+        QLocale::setDefault(QLocale::c());
+        followLocale();
+        QCOMPARE(text, shown);
+        QCOMPARE(logLines.size(), 1);
+        const bool found = shown != QLatin1String("Amplifier status");
+        QCOMPARE(logLines.first().contains(QStringLiteral("no translation for ") + QLocale(locale).name()),
+                 !found);
     }
 };
 

@@ -1464,11 +1464,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -1691,7 +1691,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -1929,11 +1929,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -2156,7 +2156,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -2394,11 +2394,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -2621,7 +2621,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -3135,15 +3135,15 @@
     <name>CarInfoItem28_3</name>
     <message>
         <source>10 amps</source>
-        <translation>10安</translation>
+        <translation>10A</translation>
     </message>
     <message>
         <source>13 amps</source>
-        <translation>13安</translation>
+        <translation>13A</translation>
     </message>
     <message>
         <source>5 amps</source>
-        <translation>5安</translation>
+        <translation>5A</translation>
     </message>
     <message>
         <source>ACTIVATED</source>
@@ -3179,7 +3179,7 @@
     </message>
     <message>
         <source>America</source>
-        <translation>美国</translation>
+        <translation>英语（美国）</translation>
     </message>
     <message>
         <source>Audio</source>
@@ -3187,7 +3187,7 @@
     </message>
     <message>
         <source>Austria</source>
-        <translation>奥地利</translation>
+        <translation>德语（奥地利）</translation>
     </message>
     <message>
         <source>Battery charge mode</source>
@@ -3215,23 +3215,23 @@
     </message>
     <message>
         <source>Bosnia and Herzegovina</source>
-        <translation>波黑</translation>
+        <translation>波斯尼亚语</translation>
     </message>
     <message>
         <source>Brazil</source>
-        <translation>巴西</translation>
+        <translation>葡萄牙语（巴西）</translation>
     </message>
     <message>
         <source>Britain</source>
-        <translation>英国</translation>
+        <translation>英语（英国）</translation>
     </message>
     <message>
         <source>Bulgaria</source>
-        <translation>保加利亚</translation>
+        <translation>保加利亚语</translation>
     </message>
     <message>
         <source>China</source>
-        <translation>中国</translation>
+        <translation>中文</translation>
     </message>
     <message>
         <source>Comfort</source>
@@ -3243,7 +3243,7 @@
     </message>
     <message>
         <source>Czech</source>
-        <translation>捷克</translation>
+        <translation>捷克语</translation>
     </message>
     <message>
         <source>Deactivate</source>
@@ -3251,7 +3251,7 @@
     </message>
     <message>
         <source>Denmark</source>
-        <translation>丹麦</translation>
+        <translation>丹麦语</translation>
     </message>
     <message>
         <source>Destination information</source>
@@ -3387,7 +3387,7 @@
     </message>
     <message>
         <source>Estonia</source>
-        <translation>爱沙尼亚</translation>
+        <translation>爱沙尼亚语</translation>
     </message>
     <message>
         <source>Extremely small</source>
@@ -3395,7 +3395,7 @@
     </message>
     <message>
         <source>Finland</source>
-        <translation>芬兰</translation>
+        <translation>芬兰语</translation>
     </message>
     <message>
         <source>Forward looking</source>
@@ -3403,7 +3403,7 @@
     </message>
     <message>
         <source>France</source>
-        <translation>法国</translation>
+        <translation>法语</translation>
     </message>
     <message>
         <source>Fully loaded</source>
@@ -3415,11 +3415,11 @@
     </message>
     <message>
         <source>Germany</source>
-        <translation>德国</translation>
+        <translation>德语</translation>
     </message>
     <message>
         <source>Greece</source>
-        <translation>希腊</translation>
+        <translation>希腊语</translation>
     </message>
     <message>
         <source>Green</source>
@@ -3427,7 +3427,7 @@
     </message>
     <message>
         <source>Hungary</source>
-        <translation>匈牙利</translation>
+        <translation>匈牙利语</translation>
     </message>
     <message>
         <source>Hybrid</source>
@@ -3455,7 +3455,7 @@
     </message>
     <message>
         <source>Italy</source>
-        <translation>意大利</translation>
+        <translation>意大利语</translation>
     </message>
     <message>
         <source>KM/KWH</source>
@@ -3475,7 +3475,7 @@
     </message>
     <message>
         <source>Korea</source>
-        <translation>韩国</translation>
+        <translation>韩语</translation>
     </message>
     <message>
         <source>L</source>
@@ -3567,7 +3567,7 @@
     </message>
     <message>
         <source>Lithuania</source>
-        <translation>立陶宛</translation>
+        <translation>立陶宛语</translation>
     </message>
     <message>
         <source>MFD-Comfortable Appliances</source>
@@ -3623,7 +3623,7 @@
     </message>
     <message>
         <source>Mexico</source>
-        <translation>墨西哥</translation>
+        <translation>西班牙语（墨西哥）</translation>
     </message>
     <message>
         <source>Mileage</source>
@@ -3651,7 +3651,7 @@
     </message>
     <message>
         <source>Netherlands</source>
-        <translation>荷兰</translation>
+        <translation>荷兰语</translation>
     </message>
     <message>
         <source>Normal</source>
@@ -3659,7 +3659,7 @@
     </message>
     <message>
         <source>Norway</source>
-        <translation>挪威</translation>
+        <translation>挪威语</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -3747,7 +3747,7 @@
     </message>
     <message>
         <source>Paraguay</source>
-        <translation>巴拉圭</translation>
+        <translation>西班牙语（巴拉圭）</translation>
     </message>
     <message>
         <source>Parallel parking</source>
@@ -3799,15 +3799,15 @@
     </message>
     <message>
         <source>Poland</source>
-        <translation>波兰</translation>
+        <translation>波兰语</translation>
     </message>
     <message>
         <source>Portugal</source>
-        <translation>葡萄牙</translation>
+        <translation>葡萄牙语</translation>
     </message>
     <message>
         <source>Postpone</source>
-        <translation>推迟</translation>
+        <translation>较晚</translation>
     </message>
     <message>
         <source>Press down</source>
@@ -3847,23 +3847,23 @@
     </message>
     <message>
         <source>Romania</source>
-        <translation>罗马尼亚</translation>
+        <translation>罗马尼亚语</translation>
     </message>
     <message>
         <source>Russia</source>
-        <translation>俄罗斯</translation>
+        <translation>俄语</translation>
     </message>
     <message>
         <source>Serbia</source>
-        <translation>塞尔维亚</translation>
+        <translation>塞尔维亚语</translation>
     </message>
     <message>
         <source>Slovakia</source>
-        <translation>斯洛伐克</translation>
+        <translation>斯洛伐克语</translation>
     </message>
     <message>
         <source>Slovenia</source>
-        <translation>斯洛文尼亚</translation>
+        <translation>斯洛文尼亚语</translation>
     </message>
     <message>
         <source>Snowfield</source>
@@ -3871,7 +3871,7 @@
     </message>
     <message>
         <source>Spain</source>
-        <translation>西班牙</translation>
+        <translation>西班牙语</translation>
     </message>
     <message>
         <source>Sport</source>
@@ -3883,7 +3883,7 @@
     </message>
     <message>
         <source>Sweden</source>
-        <translation>瑞典</translation>
+        <translation>瑞典语</translation>
     </message>
     <message>
         <source>Tange assign the key to the current user account</source>
@@ -3907,7 +3907,7 @@
     </message>
     <message>
         <source>Timely</source>
-        <translation>及时</translation>
+        <translation>适中</translation>
     </message>
     <message>
         <source>Tire settings-Speeding reminder</source>
@@ -3927,7 +3927,7 @@
     </message>
     <message>
         <source>Turkish</source>
-        <translation>土耳其</translation>
+        <translation>土耳其语</translation>
     </message>
     <message>
         <source>Two-sided mode</source>
@@ -3935,7 +3935,7 @@
     </message>
     <message>
         <source>Ukraine</source>
-        <translation>乌克兰</translation>
+        <translation>乌克兰语</translation>
     </message>
     <message>
         <source>Unilateral doors</source>
@@ -4039,11 +4039,11 @@
     </message>
     <message>
         <source>great</source>
-        <translation>很好</translation>
+        <translation>极大</translation>
     </message>
     <message>
         <source>in advance</source>
-        <translation>提前</translation>
+        <translation>较早</translation>
     </message>
     <message>
         <source>invalid</source>
@@ -4167,7 +4167,7 @@
     </message>
     <message>
         <source>unit-power consumption(PurePower)</source>
-        <translation>单位-电耗(纯电)</translation>
+        <translation>单位-电耗（纯电）</translation>
     </message>
     <message>
         <source>unit-speed</source>
@@ -4317,7 +4317,7 @@
     </message>
     <message>
         <source>Battery life</source>
-        <translation>电池续航</translation>
+        <translation>纯电续航里程</translation>
     </message>
     <message>
         <source>Bright</source>
@@ -4329,7 +4329,7 @@
     </message>
     <message>
         <source>Electric drive</source>
-        <translation>电动驱动</translation>
+        <translation>纯电驱动</translation>
     </message>
     <message>
         <source>Endurance potential</source>
@@ -4522,15 +4522,15 @@
     </message>
     <message>
         <source>Battery charging online</source>
-        <translation>电池在线充电</translation>
+        <translation>充电目标电量</translation>
     </message>
     <message>
         <source>Bullet frame</source>
-        <translation>弹框</translation>
+        <translation>弹窗</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation>取消</translation>
+        <translation>未选</translation>
     </message>
     <message>
         <source>Charge</source>
@@ -4538,15 +4538,15 @@
     </message>
     <message>
         <source>Check</source>
-        <translation>检查</translation>
+        <translation>已选</translation>
     </message>
     <message>
         <source>Departure hour</source>
-        <translation>出发时间(时)</translation>
+        <translation>出发时间（时）</translation>
     </message>
     <message>
         <source>Departure minutes</source>
-        <translation>出发时间(分)</translation>
+        <translation>出发时间（分）</translation>
     </message>
     <message>
         <source>Electric management-Location 1</source>
@@ -4562,11 +4562,11 @@
     </message>
     <message>
         <source>End hour of night time</source>
-        <translation>夜间时段结束(时)</translation>
+        <translation>夜间时段结束（时）</translation>
     </message>
     <message>
         <source>End minute of night session</source>
-        <translation>夜间时段结束(分)</translation>
+        <translation>夜间时段结束（分）</translation>
     </message>
     <message>
         <source>Friday</source>
@@ -4598,11 +4598,11 @@
     </message>
     <message>
         <source>Start hour of night session</source>
-        <translation>夜间时段开始(时)</translation>
+        <translation>夜间时段开始（时）</translation>
     </message>
     <message>
         <source>Start minute of night session</source>
-        <translation>夜间时段开始(分)</translation>
+        <translation>夜间时段开始（分）</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -4626,7 +4626,7 @@
     </message>
     <message>
         <source>frequency</source>
-        <translation>频率</translation>
+        <translation>重复方式</translation>
     </message>
     <message>
         <source>max</source>
@@ -4927,7 +4927,7 @@
     </message>
     <message>
         <source>Czech</source>
-        <translation>捷克</translation>
+        <translation>捷克语</translation>
     </message>
     <message>
         <source>Danish</source>
@@ -5183,7 +5183,7 @@
     </message>
     <message>
         <source>Turkish</source>
-        <translation>土耳其</translation>
+        <translation>土耳其语</translation>
     </message>
     <message>
         <source>Ukrainian</source>
@@ -5503,7 +5503,7 @@
     </message>
     <message>
         <source>Inside</source>
-        <translation>车内</translation>
+        <translation>向内</translation>
     </message>
     <message>
         <source>Instantaneous fuel consumption</source>
@@ -5527,7 +5527,7 @@
     </message>
     <message>
         <source>MILE</source>
-        <translation>MILE</translation>
+        <translation>英里</translation>
     </message>
     <message>
         <source>MPG</source>
@@ -5539,7 +5539,7 @@
     </message>
     <message>
         <source>Outside</source>
-        <translation>车外</translation>
+        <translation>向外</translation>
     </message>
     <message>
         <source>Unit of measure</source>
@@ -6075,11 +6075,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -6286,7 +6286,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -6508,11 +6508,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -6715,7 +6715,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -6930,7 +6930,7 @@
     </message>
     <message>
         <source>Turkish</source>
-        <translation>土耳其</translation>
+        <translation>土耳其语</translation>
     </message>
     <message>
         <source>Warning sound volume setting</source>
@@ -6954,7 +6954,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>right</source>
@@ -7323,7 +7323,7 @@
     <name>CarInfoItem37_4</name>
     <message>
         <source>6 amp</source>
-        <translation>6安</translation>
+        <translation>6A</translation>
     </message>
     <message>
         <source>Activate when the horn buzzes</source>
@@ -7491,7 +7491,7 @@
     </message>
     <message>
         <source>Safety seats</source>
-        <translation>安全座椅</translation>
+        <translation>座椅振动</translation>
     </message>
     <message>
         <source>Short-acting automatic parking brake</source>
@@ -7538,7 +7538,7 @@
     </message>
     <message>
         <source>Automatic parking unlock</source>
-        <translation>自动驻车解锁</translation>
+        <translation>驻车自动解锁</translation>
     </message>
     <message>
         <source>Automatically lock at start</source>
@@ -7653,7 +7653,7 @@
     </message>
     <message>
         <source>Climate switch host air conditioning control interface</source>
-        <translation>气候开关主机空调控制界面</translation>
+        <translation>空调按键切换至主机空调界面</translation>
     </message>
     <message>
         <source>Comfortable</source>
@@ -7701,7 +7701,7 @@
     </message>
     <message>
         <source>Switch</source>
-        <translation>开关</translation>
+        <translation>切换</translation>
     </message>
     <message>
         <source>Unified settings</source>
@@ -7945,7 +7945,7 @@
     </message>
     <message>
         <source>Czech</source>
-        <translation>捷克</translation>
+        <translation>捷克语</translation>
     </message>
     <message>
         <source>Danish</source>
@@ -8101,7 +8101,7 @@
     </message>
     <message>
         <source>Turkish</source>
-        <translation>土耳其</translation>
+        <translation>土耳其语</translation>
     </message>
     <message>
         <source>Vertical parking</source>
@@ -8748,7 +8748,7 @@
     </message>
     <message>
         <source>All round</source>
-        <translation>全方位</translation>
+        <translation>声场</translation>
     </message>
     <message>
         <source>Back seat</source>
@@ -8975,7 +8975,7 @@
     </message>
     <message>
         <source>electric drive</source>
-        <translation>电驱</translation>
+        <translation>纯电驱动</translation>
     </message>
     <message>
         <source>engine drive</source>
@@ -9293,11 +9293,11 @@
     </message>
     <message>
         <source>10m</source>
-        <translation>10m</translation>
+        <translation>10分钟</translation>
     </message>
     <message>
         <source>15m</source>
-        <translation>15m</translation>
+        <translation>15分钟</translation>
     </message>
     <message>
         <source>15s</source>
@@ -9305,11 +9305,11 @@
     </message>
     <message>
         <source>1m</source>
-        <translation>1m</translation>
+        <translation>1分钟</translation>
     </message>
     <message>
         <source>2m</source>
-        <translation>2m</translation>
+        <translation>2分钟</translation>
     </message>
     <message>
         <source>30s</source>
@@ -9317,11 +9317,11 @@
     </message>
     <message>
         <source>3m</source>
-        <translation>3m</translation>
+        <translation>3分钟</translation>
     </message>
     <message>
         <source>5m</source>
-        <translation>5m</translation>
+        <translation>5分钟</translation>
     </message>
     <message>
         <source>60s</source>
@@ -9393,7 +9393,7 @@
     </message>
     <message>
         <source>MILE</source>
-        <translation>MILE</translation>
+        <translation>英里</translation>
     </message>
     <message>
         <source>Manual</source>
@@ -9405,7 +9405,7 @@
     </message>
     <message>
         <source>No amplification</source>
-        <translation>无放大</translation>
+        <translation>不放大</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -9509,7 +9509,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
 </context>
 <context>
@@ -9826,11 +9826,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -10053,7 +10053,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -10108,7 +10108,7 @@
     </message>
     <message>
         <source>long battery life</source>
-        <translation>长电池续航</translation>
+        <translation>延长电池寿命</translation>
     </message>
     <message>
         <source>long cruising range</source>
@@ -10136,7 +10136,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>start time</source>
@@ -10378,11 +10378,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -10553,7 +10553,7 @@
     </message>
     <message>
         <source>Breathable</source>
-        <translation>呼吸</translation>
+        <translation>透气</translation>
     </message>
     <message>
         <source>Chinese</source>
@@ -10713,7 +10713,7 @@
     </message>
     <message>
         <source>Lighting settings-one button steering</source>
-        <translation>灯光设置-一键转向</translation>
+        <translation>灯光设置-一触多闪</translation>
     </message>
     <message>
         <source>Lighting setup-daytime running lights</source>
@@ -10881,7 +10881,7 @@
     </message>
     <message>
         <source>portable</source>
-        <translation>便携式</translation>
+        <translation>轻便</translation>
     </message>
     <message>
         <source>restore vehicle settings</source>
@@ -11307,7 +11307,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -11429,15 +11429,15 @@
     <name>CarInfoItem64_8</name>
     <message>
         <source>Back video</source>
-        <translation>后视频</translation>
+        <translation>后视画面</translation>
     </message>
     <message>
         <source>Back video 120° view</source>
-        <translation>后视频120°视角</translation>
+        <translation>后视画面120°视角</translation>
     </message>
     <message>
         <source>Back video 180° view</source>
-        <translation>后视频180°视角</translation>
+        <translation>后视画面180°视角</translation>
     </message>
     <message>
         <source>Disable auxiliary line</source>
@@ -11445,15 +11445,15 @@
     </message>
     <message>
         <source>Front video</source>
-        <translation>前视频</translation>
+        <translation>前视画面</translation>
     </message>
     <message>
         <source>Front video 120° view</source>
-        <translation>前视频120°视角</translation>
+        <translation>前视画面120°视角</translation>
     </message>
     <message>
         <source>Front video 180° view</source>
-        <translation>前视频180°视角</translation>
+        <translation>前视画面180°视角</translation>
     </message>
     <message>
         <source>Invalid</source>
@@ -11461,11 +11461,11 @@
     </message>
     <message>
         <source>Left and right video</source>
-        <translation>左右视频</translation>
+        <translation>左右画面</translation>
     </message>
     <message>
         <source>Left video</source>
-        <translation>左视频</translation>
+        <translation>左视画面</translation>
     </message>
     <message>
         <source>Normal mode</source>
@@ -11493,7 +11493,7 @@
     </message>
     <message>
         <source>Right video</source>
-        <translation>右视频</translation>
+        <translation>右视画面</translation>
     </message>
     <message>
         <source>null</source>
@@ -11501,11 +11501,11 @@
     </message>
     <message>
         <source>right Video</source>
-        <translation>右视频</translation>
+        <translation>右视画面</translation>
     </message>
     <message>
         <source>video Status</source>
-        <translation>视频状态</translation>
+        <translation>画面状态</translation>
     </message>
 </context>
 <context>
@@ -11739,11 +11739,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -11966,7 +11966,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -12124,7 +12124,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>打开</translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>Party theme</source>
@@ -12327,7 +12327,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>打开</translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>Panorama + Backward</source>
@@ -12593,7 +12593,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>打开</translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>Outside temperature information</source>
@@ -12776,11 +12776,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -13003,7 +13003,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -13061,19 +13061,19 @@
     </message>
     <message>
         <source>COMFORT</source>
-        <translation>COMFORT</translation>
+        <translation>舒适</translation>
     </message>
     <message>
         <source>COMFORT mode</source>
-        <translation>COMFORT模式</translation>
+        <translation>舒适模式</translation>
     </message>
     <message>
         <source>COMFORT mode-air conditioning control</source>
-        <translation>COMFORT模式-空调控制</translation>
+        <translation>舒适模式-空调控制</translation>
     </message>
     <message>
         <source>COMFORT mode-coasting energy regeneration</source>
-        <translation>COMFORT模式-滑行能量回收</translation>
+        <translation>舒适模式-滑行能量回收</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -13125,7 +13125,7 @@
     </message>
     <message>
         <source>SMART</source>
-        <translation>SMART</translation>
+        <translation>智能</translation>
     </message>
     <message>
         <source>SPORT</source>
@@ -13192,7 +13192,7 @@
     </message>
     <message>
         <source>Charging settings-set the aamount Of charge(normal)-battery percentage</source>
-        <translation>充电设置-设置充电量（普通）-电量百分比</translation>
+        <translation>充电设置-充电量（普通）-电量百分比</translation>
     </message>
     <message>
         <source>Charging settings-set the aamount of charge(full)-approximate mileage</source>
@@ -13200,7 +13200,7 @@
     </message>
     <message>
         <source>Charging settings-set the aamount of charge(full)-battery percentage</source>
-        <translation>充电设置-设置充电量（充满）-电量百分比</translation>
+        <translation>充电设置-充电量（充满）-电量百分比</translation>
     </message>
     <message>
         <source>Charging settings-set the aamount of charge(normal)-approximate mileage</source>
@@ -13299,7 +13299,7 @@
     </message>
     <message>
         <source>electricity</source>
-        <translation>电</translation>
+        <translation>电能</translation>
     </message>
     <message>
         <source>gasoline</source>
@@ -13541,7 +13541,7 @@
     </message>
     <message>
         <source>have</source>
-        <translation>有</translation>
+        <translation>是</translation>
     </message>
     <message>
         <source>least</source>
@@ -13549,7 +13549,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation>无</translation>
+        <translation>否</translation>
     </message>
     <message>
         <source>reduce</source>
@@ -13795,11 +13795,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -14022,7 +14022,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -14260,11 +14260,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -14487,7 +14487,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -14601,7 +14601,7 @@
     </message>
     <message>
         <source>Engine condensate temperature indicator Light</source>
-        <translation>发动机冷凝液温度指示灯</translation>
+        <translation>发动机冷却液温度指示灯</translation>
     </message>
     <message>
         <source>Engine emissions malfunction</source>
@@ -14923,7 +14923,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>打开</translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>Overspeed alarm</source>
@@ -15361,7 +15361,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>打开</translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>Others-automatic folding and unfolding of exterior rearview mirrors</source>
@@ -15679,11 +15679,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -15898,7 +15898,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -15947,7 +15947,7 @@
     </message>
     <message>
         <source>Fuel life</source>
-        <translation>燃油续航</translation>
+        <translation>燃油续航里程</translation>
     </message>
     <message>
         <source>Hybrid system mode</source>
@@ -15971,7 +15971,7 @@
     </message>
     <message>
         <source>battery life</source>
-        <translation>电池续航</translation>
+        <translation>纯电续航里程</translation>
     </message>
     <message>
         <source>default mode</source>
@@ -15979,7 +15979,7 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>弱</translation>
     </message>
     <message>
         <source>middle</source>
@@ -15987,18 +15987,18 @@
     </message>
     <message>
         <source>powerful</source>
-        <translation>强劲</translation>
+        <translation>强</translation>
     </message>
     <message>
         <source>total battery life</source>
-        <translation>电池总续航</translation>
+        <translation>总续航里程</translation>
     </message>
 </context>
 <context>
     <name>CarInfoItem72_7</name>
     <message>
         <source>CUSTOM</source>
-        <translation>CUSTOM</translation>
+        <translation>自定义</translation>
     </message>
     <message>
         <source>Intake air temperature</source>
@@ -16006,7 +16006,7 @@
     </message>
     <message>
         <source>SUPER SPORT</source>
-        <translation>SUPER SPORT</translation>
+        <translation>超级运动</translation>
     </message>
     <message>
         <source>State under custom-comfort air conditioning</source>
@@ -16184,7 +16184,7 @@
     </message>
     <message>
         <source>Panorama status-model</source>
-        <translation>全景状态-车型</translation>
+        <translation>全景状态-模式</translation>
     </message>
     <message>
         <source>Panorama status-turn on the turn signal automatically at low speed 360</source>
@@ -16454,11 +16454,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -16681,7 +16681,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -16919,11 +16919,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -17146,7 +17146,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -17384,11 +17384,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -17611,7 +17611,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -17654,7 +17654,7 @@
     </message>
     <message>
         <source>Medium</source>
-        <translation>中</translation>
+        <translation>中音</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -17682,7 +17682,7 @@
     </message>
     <message>
         <source>User</source>
-        <translation>用户</translation>
+        <translation>自定义</translation>
     </message>
     <message>
         <source>Vocal</source>
@@ -17733,27 +17733,27 @@
     </message>
     <message>
         <source>Recycle the first grid</source>
-        <translation>回收第一格</translation>
+        <translation>能量回收第1格</translation>
     </message>
     <message>
         <source>Recycle the second grid</source>
-        <translation>回收第二格</translation>
+        <translation>能量回收第2格</translation>
     </message>
     <message>
         <source>Recycle the third grid</source>
-        <translation>回收第三格</translation>
+        <translation>能量回收第3格</translation>
     </message>
     <message>
         <source>Recycle the fourth grid</source>
-        <translation>回收第四格</translation>
+        <translation>能量回收第4格</translation>
     </message>
     <message>
         <source>Recycle the fifth grid</source>
-        <translation>回收第五格</translation>
+        <translation>能量回收第5格</translation>
     </message>
     <message>
         <source>Recycle the sixth grid</source>
-        <translation>回收第六格</translation>
+        <translation>能量回收第6格</translation>
     </message>
     <message>
         <source>Fuel consumption first grid</source>
@@ -17781,11 +17781,11 @@
     </message>
     <message>
         <source>0~180min</source>
-        <translation>0~180min</translation>
+        <translation>0~180分钟</translation>
     </message>
     <message>
         <source>0~60min</source>
-        <translation>0~60min</translation>
+        <translation>0~60分钟</translation>
     </message>
     <message>
         <source>Average fuel consumption</source>
@@ -17855,11 +17855,11 @@
     </message>
     <message>
         <source>Clear the PAGE1 parameter</source>
-        <translation>清除PAGE1参数</translation>
+        <translation>清除页面1参数</translation>
     </message>
     <message>
         <source>Clear the PAGE2 parameter</source>
-        <translation>清除PAGE2参数</translation>
+        <translation>清除页面2参数</translation>
     </message>
     <message>
         <source>Default mileage</source>
@@ -17887,15 +17887,15 @@
     </message>
     <message>
         <source>Page0</source>
-        <translation>Page0</translation>
+        <translation>页面0</translation>
     </message>
     <message>
         <source>Page1</source>
-        <translation>Page1</translation>
+        <translation>页面1</translation>
     </message>
     <message>
         <source>Page2</source>
-        <translation>Page2</translation>
+        <translation>页面2</translation>
     </message>
     <message>
         <source>Set predetermined mileage parameters</source>
@@ -17931,7 +17931,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>set mileage</source>
@@ -18042,7 +18042,7 @@
     </message>
     <message>
         <source>Mixed Streaming</source>
-        <translation>混合流媒体</translation>
+        <translation>混动能量流</translation>
     </message>
     <message>
         <source>Navigation</source>
@@ -18316,7 +18316,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>打开</translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>P file</source>
@@ -18328,15 +18328,15 @@
     </message>
     <message>
         <source>Page0</source>
-        <translation>Page0</translation>
+        <translation>页面0</translation>
     </message>
     <message>
         <source>Page1</source>
-        <translation>Page1</translation>
+        <translation>页面1</translation>
     </message>
     <message>
         <source>Page2</source>
-        <translation>Page2</translation>
+        <translation>页面2</translation>
     </message>
     <message>
         <source>Rear view mirror adaptive</source>
@@ -18396,7 +18396,7 @@
     </message>
     <message>
         <source>Welcome lighting</source>
-        <translation>迎宾照明</translation>
+        <translation>迎宾灯</translation>
     </message>
     <message>
         <source>agate red</source>
@@ -18408,7 +18408,7 @@
     </message>
     <message>
         <source>day lighting</source>
-        <translation>日间照明</translation>
+        <translation>日间行车灯</translation>
     </message>
     <message>
         <source>door opening options</source>
@@ -18436,7 +18436,7 @@
     </message>
     <message>
         <source>locked</source>
-        <translation>已锁止</translation>
+        <translation>已上锁</translation>
     </message>
     <message>
         <source>mood lighting status</source>
@@ -18523,7 +18523,7 @@
     </message>
     <message>
         <source>Cancel</source>
-        <translation>取消</translation>
+        <translation>未选</translation>
     </message>
     <message>
         <source>OFF</source>
@@ -18531,11 +18531,11 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>打开</translation>
+        <translation>开</translation>
     </message>
     <message>
         <source>choose</source>
-        <translation>选择</translation>
+        <translation>已选</translation>
     </message>
     <message>
         <source>memory speed</source>
@@ -18728,7 +18728,7 @@
     </message>
     <message>
         <source>model</source>
-        <translation>车型</translation>
+        <translation>驾驶模式</translation>
     </message>
     <message>
         <source>scroll</source>
@@ -18974,11 +18974,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -19201,7 +19201,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -19439,11 +19439,11 @@
     </message>
     <message>
         <source>light</source>
-        <translation>亮</translation>
+        <translation>灯光</translation>
     </message>
     <message>
         <source>recharge mleage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -19666,7 +19666,7 @@
     </message>
     <message>
         <source>recharge mileage</source>
-        <translation>充电续航里程</translation>
+        <translation>续航里程</translation>
     </message>
     <message>
         <source>total mileage</source>
@@ -19685,7 +19685,7 @@
     </message>
     <message>
         <source>Abnormal condensate</source>
-        <translation>冷凝液异常</translation>
+        <translation>冷却液异常</translation>
     </message>
 </context>
 <context>
