@@ -12,6 +12,7 @@
 #include "mainwindow.h"
 #include "recorder.h"
 #include "scenariorunner.h"
+#include "seriallink.h"
 #include "simulatorhost.h"
 
 #include "catalogue.h"
@@ -348,6 +349,7 @@ int main(int argc, char *argv[])
     }
 
     SimulatorHost host;
+    host.setLink(new SerialLink);
     // The decoder box: without its catalogue it stays off, and the
     // simulator runs all the same.
     QString boxError;

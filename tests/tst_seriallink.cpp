@@ -3,6 +3,7 @@
 
 #include "framesplitter.h"
 #include "hostsim.h"
+#include "ptybox.h"
 #include "seriallink.h"
 
 #include <QDir>
@@ -11,79 +12,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <fcntl.h>
-#include <pty.h>
-#include <unistd.h>
-
 namespace {
-
-// 2E command L payload checksum: 0xFF XOR the low byte of the sum from the
-// command to the last payload byte.
-QByteArray frame2E(quint8 command, QByteArray const &payload)
-{
-    QByteArray frame;
-    frame.append(char(0x2E)).append(char(command)).append(char(payload.size())).append(payload);
-    quint8 sum = 0;
-    for (int i = 1; i < frame.size(); ++i)
-        sum += quint8(frame.at(i));
-    return frame.append(char(0xFF ^ sum));
-}
-
-// FD N command payload checksum (one byte): the low byte of the sum from N to
-// the last payload byte.
-QByteArray frameFD(quint8 command, QByteArray const &payload)
-{
-    QByteArray frame;
-    frame.append(char(0xFD)).append(char(payload.size() + 3)).append(char(command)).append(payload);
-    quint8 sum = 0;
-    for (int i = 1; i < frame.size(); ++i)
-        sum += quint8(frame.at(i));
-    return frame.append(char(sum));
-}
-
-QByteArray broken(QByteArray frame)
-{
-    frame[frame.size() - 1] = char(frame.at(frame.size() - 1) ^ 0x5A);
-    return frame;
-}
-
-// The master side of a pseudo-terminal, non-blocking, and the name of the
-// slave side that a serial port opens.
-struct Pty
-{
-    int master = -1;
-    QString slave;
-
-    bool open()
-    {
-        int slaveFd = -1;
-        char name[256] = {};
-        if (openpty(&master, &slaveFd, name, nullptr, nullptr) != 0)
-            return false;
-        ::close(slaveFd);
-        fcntl(master, F_SETFL, fcntl(master, F_GETFL) | O_NONBLOCK);
-        slave = QString::fromLocal8Bit(name);
-        return true;
-    }
-    void close()
-    {
-        if (master >= 0)
-            ::close(master);
-        master = -1;
-    }
-    ~Pty() { close(); }
-    void write(QByteArray const &bytes) const { QCOMPARE(::write(master, bytes.constData(), bytes.size()), ssize_t(bytes.size())); }
-    // What has arrived by now.
-    QByteArray read() const
-    {
-        QByteArray all;
-        char buffer[512];
-        ssize_t n;
-        while ((n = ::read(master, buffer, sizeof buffer)) > 0)
-            all.append(buffer, int(n));
-        return all;
-    }
-};
 
 struct Received
 {
@@ -112,7 +41,7 @@ private slots:
 
     void framesGoOutByteForByte()
     {
-        Pty pty;
+        PtyBox::Pty pty;
         QVERIFY(pty.open());
         SerialLink link;
         QString error;
@@ -123,9 +52,9 @@ private slots:
         // Bytes that a terminal would translate or swallow (CR, LF, ^C, ^S,
         // DEL) go out as they are.
         const QList<QByteArray> frames = {
-            frame2E(0xA8, QByteArray::fromHex("010a")),
-            frame2E(0x90, QByteArray::fromHex("0d0a")),
-            frameFD(0x83, QByteArray::fromHex("03137f")),
+            PtyBox::frame2E(0xA8, QByteArray::fromHex("010a")),
+            PtyBox::frame2E(0x90, QByteArray::fromHex("0d0a")),
+            PtyBox::frameFD(0x83, QByteArray::fromHex("03137f")),
             QByteArray::fromHex("2eef047d02000b"),
         };
         QByteArray expected;
@@ -143,14 +72,14 @@ private slots:
     {
         QTest::addColumn<QList<QByteArray>>("reads");
         QTest::addColumn<QStringList>("pieces");
-        const QByteArray good = frame2E(0x41, QByteArray::fromHex("0102"));
-        const QByteArray fd = frameFD(0x84, QByteArray::fromHex("0a"));
-        const QByteArray empty = frame2E(0x25, QByteArray());
+        const QByteArray good = PtyBox::frame2E(0x41, QByteArray::fromHex("0102"));
+        const QByteArray fd = PtyBox::frameFD(0x84, QByteArray::fromHex("0a"));
+        const QByteArray empty = PtyBox::frame2E(0x25, QByteArray());
         const QByteArray noise = QByteArray::fromHex("00137fff");
         using K = FrameSplitter::Kind;
         QTest::newRow("one good frame") << QList<QByteArray>{good} << QStringList{text(K::Frame, good)};
         QTest::newRow("no payload") << QList<QByteArray>{empty} << QStringList{text(K::Frame, empty)};
-        QTest::newRow("bad checksum") << QList<QByteArray>{broken(good)} << QStringList{text(K::BadChecksum, broken(good))};
+        QTest::newRow("bad checksum") << QList<QByteArray>{PtyBox::broken(good)} << QStringList{text(K::BadChecksum, PtyBox::broken(good))};
         QTest::newRow("split across reads")
             << QList<QByteArray>{good.left(1), good.mid(1, 2), good.mid(3)} << QStringList{text(K::Frame, good)};
         QTest::newRow("two in one read")
@@ -172,7 +101,7 @@ private slots:
     {
         QFETCH(QList<QByteArray>, reads);
         QFETCH(QStringList, pieces);
-        Pty pty;
+        PtyBox::Pty pty;
         QVERIFY(pty.open());
         SerialLink link;
         QString error;
@@ -199,7 +128,7 @@ private slots:
         sealed[6] = char(sum & 0xFF);
         HostSim::setProtocolId(67);
         FrameSplitter splitter;
-        const auto pieces = splitter.feed(sealed + broken(sealed));
+        const auto pieces = splitter.feed(sealed + PtyBox::broken(sealed));
         QCOMPARE(pieces.size(), 2);
         QCOMPARE(pieces.at(0).kind, FrameSplitter::Frame);
         QCOMPARE(pieces.at(1).kind, FrameSplitter::BadChecksum);
@@ -235,7 +164,7 @@ private slots:
     {
         QTemporaryDir dir;
         const QString device = dir.filePath("ttyBOX");
-        Pty first;
+        PtyBox::Pty first;
         QVERIFY(first.open());
         QVERIFY(QFile::link(first.slave, device));
         SerialLink link;
@@ -249,16 +178,16 @@ private slots:
         // Frames sent meanwhile are logged as not written, and the
         // simulator goes on.
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("ttyBOX: frame 2E A8 02 01 0A .. not written: the port is gone"));
-        link.send(frame2E(0xA8, QByteArray::fromHex("010a")));
+        link.send(PtyBox::frame2E(0xA8, QByteArray::fromHex("010a")));
 
-        Pty second;
+        PtyBox::Pty second;
         QVERIFY(second.open());
         QVERIFY(QFile::remove(device));
         QVERIFY(QFile::link(second.slave, device));
         QTRY_COMPARE_WITH_TIMEOUT(link.state(), BoxLink::Linked, SerialLink::RetryMs * 6);
         QCOMPARE(link.device(), device);
 
-        const QByteArray frame = frame2E(0x90, QByteArray::fromHex("2500"));
+        const QByteArray frame = PtyBox::frame2E(0x90, QByteArray::fromHex("2500"));
         link.send(frame);
         QByteArray arrived;
         QTRY_COMPARE((arrived += second.read()), frame);

@@ -81,6 +81,18 @@ int FrameSplitter::command(QByteArray const &frame)
     }
 }
 
+QByteArray FrameSplitter::payload(QByteArray const &frame)
+{
+    if (command(frame) < 0)
+        return QByteArray();
+    return frame.mid(3, frame.size() - 3 - checksumBytes(frame, CanObj::id()));
+}
+
+int FrameSplitter::checksumBytes(QByteArray const &frame, int protocolId)
+{
+    return !frame.isEmpty() && quint8(frame.at(0)) == 0xFD && protocolId == 67 ? 2 : 1;
+}
+
 bool FrameSplitter::checksumAgrees(QByteArray const &frame)
 {
     QByteArray sealed = frame;

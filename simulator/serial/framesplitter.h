@@ -41,6 +41,12 @@ public:
     // A frame's command byte (byte 1 in 0x2E frames, byte 2 in 0xFD ones);
     // -1 for bytes that are no frame.
     static int command(QByteArray const &frame);
+    // The payload: the bytes between the command (or the length after it)
+    // and the checksum slot, under the selected protocol.
+    static QByteArray payload(QByteArray const &frame);
+    // The size of an 0xFD or 0x2E frame's checksum slot: two bytes for 0xFD
+    // frames on protocol 67, one elsewhere.
+    static int checksumBytes(QByteArray const &frame, int protocolId);
     // The checksum slot holds what the host's rule puts there.
     static bool checksumAgrees(QByteArray const &frame);
 
