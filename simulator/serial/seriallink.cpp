@@ -122,14 +122,11 @@ void SerialLink::readArrived()
 
 void SerialLink::failed(QSerialPort::SerialPortError error)
 {
-    switch (error) {
-    case QSerialPort::NoError:
-    // open() gives its reason to the caller, and a port that is still away
-    // fails every retry.
-    case QSerialPort::OpenError:
-    case QSerialPort::DeviceNotFoundError:
-    case QSerialPort::PermissionError:
+    // Opening, and every retry of a port that is still away, gives its
+    // reason to openPort().
+    if (error == QSerialPort::NoError || m_state != Linked)
         return;
+    switch (error) {
     // A port whose device went away reads nothing and fails on every
     // attempt: the adapter was pulled, or the other end hung up.
     case QSerialPort::ResourceError:
