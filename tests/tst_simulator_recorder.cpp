@@ -212,9 +212,9 @@ void TestSimulatorRecorder::replayMakesThePagesFollow()
     const QString open = "protocol 28\nbuf 105 18 9\ncall showExView\ntap title 1\nwait 150\n"
                          "expect row 0 \"18\"\nexpect row 1 \"0\"\ndrop frames\n";
     QVERIFY2(!run(runner, open + "replay " + file + "\n", &error), "replayed with the box off");
-    QVERIFY2(error.endsWith("expected the decoder box on got off (box on first)"), qPrintable(error));
+    QVERIFY2(error.endsWith("expected a replay got the decoder box is off (box on first)"), qPrintable(error));
     QVERIFY2(!run(runner, "box on\nreplay " + m_dir.filePath("none.log") + "\n", &error), "replayed a missing log");
-    QVERIFY2(error.contains("expected a frame log got") && error.contains("none.log"), qPrintable(error));
+    QVERIFY2(error.contains("expected a replay got") && error.contains("none.log"), qPrintable(error));
 
     QSignalSpy answers(&host.box(), &DecoderBox::answered);
     QSignalSpy refused(&host.box(), &DecoderBox::unanswered);

@@ -290,17 +290,26 @@ bool FrameLog::load(QString const &file, QList<Entry> *entries, QString *error)
     return parse(file, QString::fromUtf8(input.readAll()), entries, error);
 }
 
-FrameLog::ReplayResult FrameLog::replay(SimulatorHost &host, QList<Entry> const &entries)
+bool FrameLog::replay(SimulatorHost &host, QString const &file, QString *error)
 {
+    QList<Entry> entries;
+    if (!load(file, &entries, error))
+        return false;
     BoxLink const *link = host.link();
     const bool linked = link && link->state() != BoxLink::Unlinked;
     bool anything = false;
-    for (Entry const &entry : entries) {
-        if (entry.direction == Tx && !linked && !host.box().isEnabled())
-            return BoxOff;
+    for (Entry const &entry : qAsConst(entries)) {
+        if (entry.direction == Tx && !linked && !host.box().isEnabled()) {
+            *error = QStringLiteral("the decoder box is off (box on first)");
+            return false;
+        }
         anything = anything || entry.direction == Tx || entry.fromBox;
     }
-    for (Entry const &entry : entries) {
+    if (!anything) {
+        *error = QStringLiteral("%1 holds no TX frames and no reports of a box").arg(file);
+        return false;
+    }
+    for (Entry const &entry : qAsConst(entries)) {
         if (entry.direction == Tx && linked)
             host.link()->send(entry.frame);
         else if (entry.direction == Tx)
@@ -308,5 +317,5 @@ FrameLog::ReplayResult FrameLog::replay(SimulatorHost &host, QList<Entry> const 
         else if (entry.fromBox)
             host.report(FrameSplitter::Piece{entry.piece, entry.frame});
     }
-    return anything ? Replayed : NothingToReplay;
+    return true;
 }

@@ -101,13 +101,13 @@ public:
     bool save(QString const &file, QString *error) const;
     static bool load(QString const &file, QList<Entry> *entries, QString *error);
 
-    enum ReplayResult { Replayed, BoxOff, NothingToReplay };
-    // Entries as if they happened again: the TX frames to the box that
+    // A saved log as if it happened again: its TX frames to the box that
     // hears them (the real one while linked, else the simulated one, which
     // answers each after its delay); a real box's reports as if it sent
-    // them now. BoxOff, and nothing replayed, when there are TX frames and
-    // no box hears them.
-    static ReplayResult replay(SimulatorHost &host, QList<Entry> const &entries);
+    // them now. False, with the reason in *error, for a log that can't be
+    // read, holds nothing to replay, or has TX frames that no box hears;
+    // nothing is replayed then.
+    static bool replay(SimulatorHost &host, QString const &file, QString *error);
 
 signals:
     void appended(FrameLog::Entry const &entry);

@@ -172,20 +172,7 @@ bool LogPanel::loadLog(QString const &file, QString *error)
 
 bool LogPanel::replayLog(QString const &file, QString *error)
 {
-    QList<FrameLog::Entry> entries;
-    if (!FrameLog::load(file, &entries, error))
-        return false;
-    switch (FrameLog::replay(m_host, entries)) {
-    case FrameLog::BoxOff:
-        *error = tr("The decoder box is off: switch it on to replay a log");
-        return false;
-    case FrameLog::NothingToReplay:
-        *error = tr("%1 holds no TX frames and no reports of a box").arg(file);
-        return false;
-    case FrameLog::Replayed:
-        break;
-    }
-    return true;
+    return FrameLog::replay(m_host, file, error);
 }
 
 bool LogPanel::startRecording(QString const &file, QString *error)
