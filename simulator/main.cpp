@@ -10,8 +10,10 @@
 #include "gallery.h"
 #include "logpanel.h"
 #include "mainwindow.h"
+#include "options.h"
 #include "recorder.h"
 #include "scenariorunner.h"
+#include "seriallink.h"
 #include "simulatorhost.h"
 
 #include "catalogue.h"
@@ -32,209 +34,7 @@
 
 namespace {
 
-// Exit status when the simulator can't start: bad options, no plug-in, an
-// unreadable scenario. Scenarios themselves end with 0, 1 or 2.
-constexpr int StartFailed = 3;
-
-char const Usage[] =
-    "usage: headunit-sim [options]\n"
-    "\n"
-    "Without options: the head unit's screen and the control panel in a window,\n"
-    "on protocol 28 with demo data.\n"
-    "\n"
-    "  --script FILE       run a scenario (- reads standard input); headless\n"
-    "                      unless --window is given. Exit status: 0 all lines ran,\n"
-    "                      1 an expectation failed, 2 a malformed line\n"
-    "  --window            show the window, also while a scenario runs\n"
-    "  --record FILE       write what is done on the screen and the panels as a\n"
-    "                      scenario that replays it; with --script, what the\n"
-    "                      script does\n"
-    "  --frames FILE       save the frame log (TX frames, RX answers) at the end\n"
-    "  --screenshot FILE   save the head unit's screen as PNG at the end\n"
-    "  --window-screenshot FILE  show the window, run the scenario if one is\n"
-    "                      given, save the whole window as PNG and quit\n"
-    "  --demo DIR          run the demo tour headless, one PNG per step into DIR\n"
-    "  --gallery DIR       open every page of every family with sample data, one\n"
-    "                      PNG per screen of each page and an index.html into\n"
-    "                      DIR, headless\n"
-    "  --box-coverage      print how many adjustable rows the decoder box answers\n"
-    "  --catalogue FILE    the decoder box's catalogue (default: the build's,\n"
-    "                      or $CARCONTROL_CATALOGUE_FILE)\n"
-    "  --protocol N        start on protocol N (default 28): the window and\n"
-    "                      --screenshot with the catalogue's sample data, a\n"
-    "                      scenario with nothing else (its protocol line wins)\n"
-    "  --clock HH:MM       the head unit's clock stands at this time (--demo and\n"
-    "                      --gallery: 10:08 unless given)\n"
-    "  --list-protocols    print every protocol id with its family's first pages\n"
-    "  --zoom PERCENT      the window's screen at 50 to 100 per cent of its size\n"
-    "                      (default: what fits the desktop)\n"
-    "  --language LOCALE   the head unit's locale, e.g. zh_CN: the plug-in shows\n"
-    "                      its texts in that language where it has them\n"
-    "  --plugin FILE       the car control plug-in (default:\n"
-    "                      $CARCONTROL_PLUGIN_DIR/libcarcontrol.so)\n"
-    "  --reverse-plugin FILE  the reverse plug-in (default: libreversesample.so\n"
-    "                      beside the car control plug-in)\n"
-    "  --platform NAME     Qt platform plug-in, e.g. offscreen\n"
-    "  --verbose           print the plug-in's debug lines and each scenario line\n"
-    "  --version           the simulator's version\n"
-    "  --help              this text\n";
-
-struct Options
-{
-    QString script;
-    QString record;
-    QString frames;
-    QString screenshot;
-    QString windowScreenshot;
-    QString demoDirectory;
-    QString galleryDirectory;
-    QString catalogue;
-    bool boxCoverage = false;
-    QString plugin;
-    QString reversePlugin;
-    QString platform;
-    QString language;
-    int protocol = Demo::ProtocolId;
-    bool protocolGiven = false;
-    QTime clock;
-    int zoom = 0;
-    bool listProtocols = false;
-    bool version = false;
-    bool window = false;
-    bool verbose = false;
-    bool help = false;
-};
-
-bool parseOptions(int argc, char **argv, Options *options, QString *error)
-{
-    for (int i = 1; i < argc; ++i) {
-        const QString arg = QString::fromLocal8Bit(argv[i]);
-        auto value = [&](QString *out) {
-            if (i + 1 >= argc) {
-                *error = QStringLiteral("%1 needs a value").arg(arg);
-                return false;
-            }
-            *out = QString::fromLocal8Bit(argv[++i]);
-            return true;
-        };
-        if (arg == QLatin1String("--script")) {
-            if (!value(&options->script))
-                return false;
-        } else if (arg == QLatin1String("--record")) {
-            if (!value(&options->record))
-                return false;
-        } else if (arg == QLatin1String("--frames")) {
-            if (!value(&options->frames))
-                return false;
-        } else if (arg == QLatin1String("--screenshot")) {
-            if (!value(&options->screenshot))
-                return false;
-        } else if (arg == QLatin1String("--window-screenshot")) {
-            if (!value(&options->windowScreenshot))
-                return false;
-            options->window = true;
-        } else if (arg == QLatin1String("--demo")) {
-            if (!value(&options->demoDirectory))
-                return false;
-        } else if (arg == QLatin1String("--gallery")) {
-            if (!value(&options->galleryDirectory))
-                return false;
-        } else if (arg == QLatin1String("--catalogue")) {
-            if (!value(&options->catalogue))
-                return false;
-        } else if (arg == QLatin1String("--box-coverage")) {
-            options->boxCoverage = true;
-        } else if (arg == QLatin1String("--plugin")) {
-            if (!value(&options->plugin))
-                return false;
-        } else if (arg == QLatin1String("--reverse-plugin")) {
-            if (!value(&options->reversePlugin))
-                return false;
-        } else if (arg == QLatin1String("--platform") || arg == QLatin1String("-platform")) {
-            if (!value(&options->platform))
-                return false;
-        } else if (arg == QLatin1String("--language")) {
-            if (!value(&options->language))
-                return false;
-            const QLocale locale(options->language);
-            if (locale.language() == QLocale::C && options->language != QLatin1String("C")) {
-                *error = QStringLiteral("--language %1 is not a locale").arg(options->language);
-                return false;
-            }
-        } else if (arg == QLatin1String("--protocol")) {
-            QString text;
-            bool ok = false;
-            if (!value(&text))
-                return false;
-            options->protocol = text.toInt(&ok, 0);
-            if (!ok || options->protocol < 0) {
-                *error = QStringLiteral("--protocol %1 is not a protocol id").arg(text);
-                return false;
-            }
-            options->protocolGiven = true;
-        } else if (arg == QLatin1String("--clock")) {
-            QString text;
-            if (!value(&text))
-                return false;
-            options->clock = QTime::fromString(text, QStringLiteral("HH:mm"));
-            if (!options->clock.isValid()) {
-                *error = QStringLiteral("--clock %1 is no time of the form HH:MM").arg(text);
-                return false;
-            }
-        } else if (arg == QLatin1String("--zoom")) {
-            QString text;
-            bool ok = false;
-            if (!value(&text))
-                return false;
-            options->zoom = text.toInt(&ok);
-            if (!ok || options->zoom < 50 || options->zoom > 100) {
-                *error = QStringLiteral("--zoom %1 is not a percentage from 50 to 100").arg(text);
-                return false;
-            }
-        } else if (arg == QLatin1String("--list-protocols")) {
-            options->listProtocols = true;
-        } else if (arg == QLatin1String("--version")) {
-            options->version = true;
-        } else if (arg == QLatin1String("--window")) {
-            options->window = true;
-        } else if (arg == QLatin1String("--verbose")) {
-            options->verbose = true;
-        } else if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
-            options->help = true;
-        } else {
-            *error = QStringLiteral("unknown option %1").arg(arg);
-            return false;
-        }
-    }
-    if (!options->demoDirectory.isEmpty() && (!options->script.isEmpty() || options->window)) {
-        *error = QStringLiteral("--demo runs on its own, without --script or --window");
-        return false;
-    }
-    if (!options->galleryDirectory.isEmpty() && (!options->script.isEmpty() || options->window
-                                                 || !options->demoDirectory.isEmpty())) {
-        *error = QStringLiteral("--gallery runs on its own, without --script, --window or --demo");
-        return false;
-    }
-    // The gallery opens every family, the demo tour is the demo car's; the
-    // others look at no protocol.
-    if (options->protocolGiven) {
-        const QString other = !options->galleryDirectory.isEmpty() ? QStringLiteral("--gallery")
-                : !options->demoDirectory.isEmpty()                ? QStringLiteral("--demo")
-                : options->boxCoverage                             ? QStringLiteral("--box-coverage")
-                : options->listProtocols                           ? QStringLiteral("--list-protocols")
-                                                                   : QString();
-        if (!other.isEmpty()) {
-            *error = QStringLiteral("--protocol has no meaning with %1").arg(other);
-            return false;
-        }
-    }
-    if ((!options->record.isEmpty() || !options->frames.isEmpty())
-            && (!options->demoDirectory.isEmpty() || !options->galleryDirectory.isEmpty())) {
-        *error = QStringLiteral("--record and --frames go with a scenario or the window, not with --demo or --gallery");
-        return false;
-    }
-    return true;
-}
+using Options::StartFailed;
 
 // Where the plug-ins, the artwork and the catalogue are, unless the
 // environment names them: beside the simulator when it is installed (the
@@ -284,28 +84,30 @@ bool saveScreenshot(SimulatorHost &host, QString const &file)
 
 int main(int argc, char *argv[])
 {
-    Options options;
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    Options::Values options;
     QString error;
-    if (!parseOptions(argc, argv, &options, &error)) {
+    if (!Options::parse(arguments, &options, &error)) {
         printError(error);
-        std::fputs(Usage, stderr);
+        std::fprintf(stderr, "Try headunit-sim --help.\n");
         return StartFailed;
     }
-    if (options.help) {
-        std::fputs(Usage, stdout);
+    if (options.help || options.manualPage) {
+        // Qt's help names the program as it was called.
+        QCoreApplication app(argc, argv);
+        std::fputs(qPrintable(options.help ? Options::helpText() : Options::manualPage()), stdout);
         return 0;
     }
     if (options.version) {
         std::printf("headunit-sim %s (Qt %s)\n", SIMULATOR_VERSION, qVersion());
         return 0;
     }
-    // The folders of the pictures first: nothing runs for pictures that
-    // can't be written.
-    for (QString const &folder : {options.demoDirectory, options.galleryDirectory}) {
-        if (!folder.isEmpty() && !Scenario::makeFolder(folder, &error)) {
-            printError(error);
-            return StartFailed;
-        }
+    // Every output first: nothing runs for a result that can't be written.
+    if (!Options::checkOutputs(options, &error)) {
+        printError(error);
+        return StartFailed;
     }
 
     const bool headless = !options.window
@@ -348,6 +150,7 @@ int main(int argc, char *argv[])
     }
 
     SimulatorHost host;
+    host.setLink(new SerialLink);
     // The decoder box: without its catalogue it stays off, and the
     // simulator runs all the same.
     QString boxError;
@@ -437,6 +240,15 @@ int main(int argc, char *argv[])
         }
     }
 
+    // A real decoder box on a serial port, once the simulated one has its
+    // place: it is off while the real one is linked.
+    auto linkBox = [&] {
+        if (options.serialDevice.isEmpty() || host.openLink(options.serialDevice, options.serialBaudRate, &error))
+            return true;
+        printError(QStringLiteral("serial %1").arg(error));
+        return false;
+    };
+
     if (headless) {
         HostSim::screen()->show();
         EventPump::settle();
@@ -447,6 +259,8 @@ int main(int argc, char *argv[])
             printError(error);
             return StartFailed;
         }
+        if (!linkBox())
+            return StartFailed;
         int status = Scenario::Passed;
         if (options.script.isEmpty()) {
             const Scenario::Result start = Demo::startCar(host, options.protocol);
@@ -484,6 +298,8 @@ int main(int argc, char *argv[])
         window.startDemoCar(options.protocol);
     // In the window the car answers: the box is on.
     host.box().setEnabled(true);
+    if (!linkBox())
+        return StartFailed;
     LogPanel *logs = window.findChild<LogPanel *>();
     if (!options.record.isEmpty() && !logs->startRecording(options.record, &error)) {
         printError(error);

@@ -61,6 +61,10 @@ done
 
 case $kind in
 bench)
+    # The link to a real decoder box uses Qt's serial port module, which
+    # dpkg-shlibdeps finds in the simulator.
+    dpkg-deb -f "$deb" Depends | grep -q 'libqt5serialport5' \
+        || fail "the package doesn't depend on libqt5serialport5"
     sim="$root/usr/bin/headunit-sim"
     [ -x "$sim" ] || fail "no usr/bin/headunit-sim in the package"
     # Nothing from the build tree: an empty environment, and the loader's

@@ -362,6 +362,19 @@ void TestScenarioParser::expectations()
     QCOMPARE(parsed("screenshot shots/a.png").texts, QStringList{"shots/a.png"});
     QCOMPARE(parsed("replay \"logs/a b.log\"").kind, Kind::Replay);
     QCOMPARE(parsed("replay \"logs/a b.log\"").texts, QStringList{"logs/a b.log"});
+
+    // A real box: the port as written, expanded when it runs; a frame it
+    // sends, by command, payload and the time to wait for it.
+    c = parsed("serial ${CARCONTROL_BOX}:19200");
+    QCOMPARE(c.kind, Kind::Serial);
+    QCOMPARE(c.texts, QStringList{"${CARCONTROL_BOX}:19200"});
+    c = parsed("expect rx A8");
+    QCOMPARE(c.kind, Kind::ExpectRx);
+    QCOMPARE(c.frame, QList<int>{0xA8});
+    QCOMPARE(c.numbers, numbers({Scenario::DefaultRxWithinMs}));
+    c = parsed("expect rx 0x41 01 ?? within 250");
+    QCOMPARE(c.frame, (QList<int>{0x41, 0x01, -1}));
+    QCOMPARE(c.numbers, numbers({250}));
 }
 
 void TestScenarioParser::malformedLines_data()
@@ -416,6 +429,14 @@ void TestScenarioParser::malformedLines_data()
     QTest::newRow("box delay negative") << "box delay -5" << "outside 0..";
     QTest::newRow("box delay missing") << "box delay" << "milliseconds missing";
     QTest::newRow("box on and more") << "box on 5" << "5";
+    QTest::newRow("serial without device") << "serial" << "device missing";
+    QTest::newRow("serial empty") << "serial \"\"" << "empty device name";
+    QTest::newRow("rx without command") << "expect rx" << "command missing";
+    QTest::newRow("rx any command") << "expect rx ?? 01" << "the command must be a hex byte";
+    QTest::newRow("rx time only") << "expect rx within 100" << "the command must be a hex byte";
+    QTest::newRow("rx time missing") << "expect rx 41 within" << "milliseconds missing";
+    QTest::newRow("rx time twice") << "expect rx 41 within 5 within 6" << "unexpected within";
+    QTest::newRow("frame with time") << "expect frame 2E within 5" << "unexpected within";
     QTest::newRow("quote") << "text 44 \"open" << "unterminated quote";
 }
 

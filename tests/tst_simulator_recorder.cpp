@@ -119,11 +119,22 @@ void TestSimulatorRecorder::frameLogRoundTrip()
     // A meaning may hold the comment's own sign.
     odd.meaning = QStringLiteral("67_9 \"# of presets\" -> 2");
     entries << odd;
+    // What a real box sent: a frame, one with a bad checksum, noise.
+    const QByteArray report = frame2E(QByteArray::fromHex("2E41020102"));
+    QByteArray bad = report;
+    bad[bad.size() - 1] = char(~bad.at(bad.size() - 1));
+    const FrameLog::Entry boxFrame = FrameLog::boxEntry(80000, {FrameSplitter::Frame, report});
+    const FrameLog::Entry boxBad = FrameLog::boxEntry(80001, {FrameSplitter::BadChecksum, bad});
+    const FrameLog::Entry boxNoise = FrameLog::boxEntry(80002, {FrameSplitter::Noise, QByteArray::fromHex("00137F")});
+    entries << boxFrame << boxBad << boxNoise;
 
     const QString text = FrameLog::text(entries);
     QCOMPARE(FrameLog::line(tx), QString("       12.345 TX 2E A8 02 01 0A 4A  # 28_2 \"Treble\" -> 10"));
     QCOMPARE(FrameLog::line(rx), QString("       12.396 RX 28:106 0A 01 41:3 FF  # dataChanged()"));
     QCOMPARE(FrameLog::line(request), QString("       70.001 RX  # dataChanged()"));
+    QCOMPARE(FrameLog::line(boxFrame), "       80.000 RX " + Scenario::hex(report) + "  # box: command 41");
+    QCOMPARE(FrameLog::line(boxBad), "       80.001 RX-BAD " + Scenario::hex(bad) + "  # box: command 41, bad checksum");
+    QCOMPARE(FrameLog::line(boxNoise), QString("       80.002 RX-NOISE 00 13 7F  # box: noise"));
     QVERIFY(text.contains("\n# protocol 28\n"));
     QVERIFY(text.contains("\n# protocol 67\n"));
 
@@ -141,6 +152,7 @@ void TestSimulatorRecorder::frameLogRoundTrip()
     for (int i = 0; i < entries.size(); ++i) {
         QCOMPARE(loaded.at(i).ms, entries.at(i).ms);
         QCOMPARE(loaded.at(i).direction, entries.at(i).direction);
+        QCOMPARE(FrameLog::directionText(loaded.at(i)), FrameLog::directionText(entries.at(i)));
         QCOMPARE(loaded.at(i).protocolId, entries.at(i).protocolId);
         QCOMPARE(loaded.at(i).meaning, entries.at(i).meaning);
         QCOMPARE(FrameLog::bytesText(loaded.at(i)), FrameLog::bytesText(entries.at(i)));
@@ -156,7 +168,9 @@ void TestSimulatorRecorder::malformedLogLines_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("no direction") << "1.000" << "a time and TX or RX missing";
     QTest::newRow("time") << "1s TX 2E" << "time 1s is not a number of seconds";
-    QTest::newRow("direction") << "1.000 XX 2E" << "direction XX is neither TX nor RX";
+    QTest::newRow("direction") << "1.000 XX 2E" << "direction XX is none of TX, RX, RX-BAD, RX-NOISE";
+    QTest::newRow("box noise without bytes") << "1.000 RX-NOISE" << "RX-NOISE without bytes";
+    QTest::newRow("box frame byte") << "1.000 RX-BAD 2E 4" << "4 is not a byte in hex";
     QTest::newRow("byte") << "1.000 TX 2E 9G" << "9G is not a byte in hex";
     QTest::newRow("three digits") << "1.000 TX 2E 123" << "123 is not a byte in hex";
     QTest::newRow("answer without place") << "1.000 RX 0A" << "0A is neither PROTOCOL:OFFSET nor a byte in hex after one";
@@ -190,15 +204,17 @@ void TestSimulatorRecorder::replayMakesThePagesFollow()
               "  0.200 TX " + Scenario::hex(frame2E(QByteArray::fromHex("2EA802010A"))).toLatin1() + "  # 28_2 \"Treble\" -> 10\n"
               "  0.250 RX 28:106 0A  # dataChanged()\n"
               "  0.300 TX " + Scenario::hex(frame2E(QByteArray::fromHex("2EA8020011"))).toLatin1() + "\n"
-              "  0.400 TX 2E A8 02 01 0A 00  # a bad checksum\n");
+              "  0.400 TX 2E A8 02 01 0A 00  # a bad checksum\n"
+              "  0.450 RX 2E 41 01 07 B6  # box: command 41\n"
+              "  0.460 RX-NOISE 13  # box: noise\n");
     log.close();
 
     const QString open = "protocol 28\nbuf 105 18 9\ncall showExView\ntap title 1\nwait 150\n"
                          "expect row 0 \"18\"\nexpect row 1 \"0\"\ndrop frames\n";
     QVERIFY2(!run(runner, open + "replay " + file + "\n", &error), "replayed with the box off");
-    QVERIFY2(error.endsWith("expected the decoder box on got off (box on first)"), qPrintable(error));
+    QVERIFY2(error.endsWith("expected a replay got the decoder box is off (box on first)"), qPrintable(error));
     QVERIFY2(!run(runner, "box on\nreplay " + m_dir.filePath("none.log") + "\n", &error), "replayed a missing log");
-    QVERIFY2(error.contains("expected a frame log got") && error.contains("none.log"), qPrintable(error));
+    QVERIFY2(error.contains("expected a replay got") && error.contains("none.log"), qPrintable(error));
 
     QSignalSpy answers(&host.box(), &DecoderBox::answered);
     QSignalSpy refused(&host.box(), &DecoderBox::unanswered);
@@ -210,6 +226,15 @@ void TestSimulatorRecorder::replayMakesThePagesFollow()
     QCOMPARE(answers.count(), 3);
     QCOMPARE(refused.count(), 1);
     QCOMPARE(answers.at(1).at(1).value<QList<DecoderBox::WrittenByte>>().size(), 1);
+    // A real box's reports come again as reports, in order, and write
+    // nothing.
+    const QList<FrameSplitter::Piece> reports = host.pendingReports();
+    QCOMPARE(reports.size(), 2);
+    QCOMPARE(reports.at(0).kind, FrameSplitter::Frame);
+    QCOMPARE(reports.at(0).bytes, QByteArray::fromHex("2E410107B6"));
+    QCOMPARE(reports.at(1).kind, FrameSplitter::Noise);
+    QVERIFY2(run(runner, "expect rx 41 07 within 0\n", &error), qPrintable(error));
+    QCOMPARE(host.pendingReports().size(), 1);
     HostSim::screen()->hide();
 }
 

@@ -8,6 +8,8 @@
 #include "eventpump.h"
 #include "hostsim.h"
 #include "mainwindow.h"
+#include "ptybox.h"
+#include "seriallink.h"
 #include "simtests.h"
 #include "simulatorhost.h"
 #include "userinput.h"
@@ -31,10 +33,11 @@ namespace {
 using SimTest::click;
 using SimTest::withText;
 
-QStringList lastRow(QTreeWidget *log)
+// The last row of a log, or the one that many rows before it.
+QStringList lastRow(QTreeWidget *log, int back = 0)
 {
     QStringList texts;
-    if (QTreeWidgetItem *item = log->topLevelItem(log->topLevelItemCount() - 1)) {
+    if (QTreeWidgetItem *item = log->topLevelItem(log->topLevelItemCount() - 1 - back)) {
         for (int column = 0; column < item->columnCount(); ++column)
             texts << item->text(column);
     }
@@ -56,6 +59,7 @@ private slots:
     void bufferEditorAndFrameLog();
     void protocolChangeReopensViews();
     void languagePicker();
+    void linksARealBox();
     // Last: it takes the screen into a window of its own.
     void zoomedWindowFitsALaptop();
 
@@ -70,6 +74,7 @@ private:
 void TestSimulatorWindow::initTestCase()
 {
     m_host = new SimulatorHost;
+    m_host->setLink(new SerialLink);
     QString error;
     QVERIFY2(m_host->load(SimulatorHost::defaultPluginFile(), &error), qPrintable(error));
     QVERIFY2(m_host->loadCatalogue(CATALOGUE_FILE, &error), qPrintable(error));
@@ -286,6 +291,75 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
         QTest::keyClick(line, Qt::Key_Return);
     }
     QCOMPARE(lastRow(frames).mid(1, 4), (QStringList{"TX", "FD 06 90 7E 00 01 14", "FD", "90"}));
+}
+
+void TestSimulatorWindow::linksARealBox()
+{
+    // The Car panel links a real box on the port typed in, a pseudo-terminal
+    // here. A tap's frame goes out on it byte for byte; what the box sends
+    // back shows in the frame log and isn't written into the buffer; the
+    // simulated box is off while the real one is linked.
+    auto *port = m_window->findChild<QComboBox *>("serialPort");
+    auto *rate = m_window->findChild<QComboBox *>("baudRate");
+    auto *link = m_window->findChild<QPushButton *>("linkButton");
+    auto *state = m_window->findChild<QLabel *>("linkState");
+    auto *frames = m_window->findChild<QTreeWidget *>("frameLog");
+    QVERIFY(port && rate && link && state && frames);
+    QCOMPARE(state->text(), QString("Not linked"));
+    QCOMPARE(rate->currentText(), QString::number(BoxLink::DefaultBaudRate));
+    m_host->box().setEnabled(true);
+
+    auto typeInto = [](QComboBox *box, QString const &text) {
+        box->lineEdit()->selectAll();
+        QTest::keyClicks(box->lineEdit(), text);
+    };
+    // A port that isn't there is refused with its name and the reason.
+    typeInto(port, "/nonexistent/ttyUSB7");
+    click(link);
+    QVERIFY2(state->text().startsWith("/nonexistent/ttyUSB7: "), qPrintable(state->text()));
+    QCOMPARE(link->text(), QString("Link"));
+    QVERIFY(m_host->box().isEnabled());
+
+    PtyBox::Pty pty;
+    QVERIFY(pty.open());
+    typeInto(port, pty.slave);
+    typeInto(rate, "115200");
+    click(link);
+    QCOMPARE(state->text(), QString("Linked to %1 at 115200 baud").arg(pty.slave));
+    QCOMPARE(link->text(), QString("Unlink"));
+    QVERIFY(!port->isEnabled());
+    QVERIFY(!m_host->box().isEnabled());
+
+    HostSim::pressBarButton(HostSim::lastBaseBar(), "home");
+    EventPump::settle();
+    m_window->startDemoCar(28);
+    click(withText<QPushButton>(m_window, "Extended view"));
+    QString missing;
+    QVERIFY2(m_host->input().tapTitle(1, &missing), qPrintable(missing));
+    EventPump::settle();
+    const quint8 treble = HostSim::buffer(28).byte(106);
+    QVERIFY2(m_host->input().tapRow(1, UserInput::RightZone, &missing), qPrintable(missing));
+    EventPump::settle();
+    const QByteArray sent = PtyBox::frame2E(0xA8, QByteArray::fromHex("01") + char(treble + 1));
+    QByteArray arrived;
+    QTRY_VERIFY2((arrived += pty.read()).contains(sent), arrived.toHex(' ').constData());
+
+    const int before = frames->topLevelItemCount();
+    const QByteArray report = PtyBox::frame2E(0x41, QByteArray::fromHex("0102"));
+    pty.write(report + QByteArray::fromHex("1337") + PtyBox::broken(report));
+    QTRY_COMPARE(frames->topLevelItemCount(), before + 3);
+    QCOMPARE(lastRow(frames, 2).mid(1), (QStringList{"RX", Scenario::hex(report), "2E", "41", "box: command 41"}));
+    QCOMPARE(lastRow(frames, 1).mid(1), (QStringList{"RX-NOISE", "13 37", "", "", "box: noise"}));
+    QCOMPARE(lastRow(frames).mid(1), (QStringList{"RX-BAD", Scenario::hex(PtyBox::broken(report)), "2E", "41",
+                                                  "box: command 41, bad checksum"}));
+    // No simulated answer came, and the box's report wrote nothing.
+    QTest::qWait(DecoderBox::DefaultDelayMs * 2);
+    QCOMPARE(HostSim::buffer(28).byte(106), treble);
+
+    click(link);
+    QCOMPARE(state->text(), QString("Not linked"));
+    QVERIFY(port->isEnabled());
+    QVERIFY(m_host->box().isEnabled());
 }
 
 void TestSimulatorWindow::protocolChangeReopensViews()

@@ -9,7 +9,7 @@
 #   tools/setup.sh lint     also clazy, Qt's static analysis (make lint)
 set -eu
 
-PACKAGES="cmake make g++ ccache python3 qtbase5-dev qtbase5-dev-tools qttools5-dev-tools dpkg-dev lintian \
+PACKAGES="cmake make g++ ccache python3 qtbase5-dev qtbase5-dev-tools qttools5-dev-tools libqt5serialport5-dev dpkg-dev lintian \
 fonts-dejavu-core fonts-wqy-microhei"
 
 for group in "$@"; do

@@ -2,12 +2,15 @@
 
 #include "datasavecontrol.h"
 #include "debuglog.h"
+#include "eventpump.h"
+#include "framesplitter.h"
 #include "hostsim.h"
 #include "listdata.h"
 #include "scenario.h"
 #include "simulatorhost.h"
 
 #include <QAbstractItemView>
+#include <QElapsedTimer>
 #include <QStackedWidget>
 #include <QTableView>
 
@@ -62,6 +65,7 @@ bool Expectations::isExpectation(Command const &command)
     case Kind::ExpectDown:
     case Kind::ExpectExists: case Kind::ExpectMissing: case Kind::ExpectVisibleText: case Kind::ExpectLog:
     case Kind::ExpectNoVisibleText: case Kind::ExpectEntries: case Kind::ExpectEntry:
+    case Kind::ExpectRx:
         return true;
     default:
         return false;
@@ -83,9 +87,54 @@ bool Expectations::check(Command const &c, QString *failure)
         return checkHost(c, failure);
     case Kind::ExpectEntries: case Kind::ExpectEntry:
         return checkEntries(c, failure);
+    case Kind::ExpectRx:
+        return checkReports(c, failure);
     default:
         return checkScreen(c, failure);
     }
+}
+
+bool Expectations::checkReports(Command const &c, QString *failure)
+{
+    const int command = c.frame.value(0);
+    const QList<int> payload = c.frame.mid(1);
+    auto matches = [&](FrameSplitter::Piece const &piece) {
+        if (piece.kind != FrameSplitter::Frame || FrameSplitter::command(piece.bytes) != command)
+            return false;
+        if (payload.isEmpty())
+            return true;
+        const QByteArray bytes = FrameSplitter::payload(piece.bytes);
+        bool same = bytes.size() == payload.size();
+        for (int i = 0; same && i < bytes.size(); ++i)
+            same = payload.at(i) < 0 || payload.at(i) == quint8(bytes.at(i));
+        return same;
+    };
+    const qint64 within = c.numbers.value(0);
+    QElapsedTimer clock;
+    clock.start();
+    QList<FrameSplitter::Piece> reports;
+    for (;;) {
+        reports = m_host.pendingReports();
+        for (int i = 0; i < reports.size(); ++i) {
+            if (matches(reports.at(i))) {
+                m_host.consumeReports(i + 1);
+                return true;
+            }
+        }
+        if (clock.elapsed() >= within)
+            break;
+        EventPump::wait(int(qBound<qint64>(1, within - clock.elapsed(), 10)));
+    }
+    QStringList listed;
+    for (int i = 0; i < reports.size() && i < FramesListed; ++i) {
+        FrameSplitter::Piece const &piece = reports.at(i);
+        listed << (piece.kind == FrameSplitter::Noise ? QStringLiteral("noise ") : QString()) + hex(piece.bytes)
+                    + (piece.kind == FrameSplitter::BadChecksum ? QStringLiteral(" (bad checksum)") : QString());
+    }
+    if (reports.size() > FramesListed)
+        listed << QStringLiteral("...");
+    return fail(failure, QStringLiteral("rx %1 within %2 ms").arg(pattern(c.frame)).arg(within),
+                listed.isEmpty() ? QStringLiteral("nothing from the box") : listed.join(QStringLiteral(", ")));
 }
 
 bool Expectations::checkFrames(Command const &c, QString *failure)

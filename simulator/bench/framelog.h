@@ -14,10 +14,24 @@
 // A time in seconds since the simulator started, the direction, the bytes
 // in hex; for RX, each run of bytes after the buffer and the decimal offset
 // it starts at (PROTOCOL:OFFSET). What follows # is for people: the frame's
-// meaning, and the protocol the frames after it were sent under. A saved
-// log's TX frames can be replayed into the box.
+// meaning, and the protocol the frames after it were sent under.
+//
+// With a real decoder box linked, what it sends back is logged as it came,
+// cut into frames (FrameSplitter): RX and the frame's bytes, RX-BAD for a
+// frame whose checksum doesn't agree, RX-NOISE for bytes that start no
+// frame:
+//
+//       12.401 RX 2E 41 02 01 0A B1  # box: command 41
+//       12.455 RX-BAD 2E 41 02 01 0A 00  # box: command 41, bad checksum
+//       12.460 RX-NOISE 13 37  # box: noise
+//
+// How the head unit's CAN-bus module turns such reports into the data
+// buffers is its own, so they stay frames: logged, saved and replayed,
+// never written into a buffer. A saved log replays: its TX frames to the
+// box, its reports of a real box as if it sent them again.
 
 #include "decoderbox.h"
+#include "framesplitter.h"
 
 #include <QByteArray>
 #include <QList>
@@ -46,7 +60,16 @@ public:
         // TX: what the frame means (DecoderBox::describe); RX: what the box
         // signalled.
         QString meaning;
+        // RX from a real box: the frame (or noise) it sent is in frame, and
+        // written stays empty.
+        bool fromBox = false;
+        FrameSplitter::Kind piece = FrameSplitter::Frame;
     };
+
+    // An entry for what a real box sent.
+    static Entry boxEntry(qint64 ms, FrameSplitter::Piece const &piece);
+    // "TX", "RX", "RX-BAD", "RX-NOISE".
+    static QString directionText(Entry const &entry);
 
     // What the log keeps of a long run: the newest entries.
     static constexpr int MaxEntries = 100000;
@@ -78,9 +101,13 @@ public:
     bool save(QString const &file, QString *error) const;
     static bool load(QString const &file, QList<Entry> *entries, QString *error);
 
-    // The TX frames of entries, into the box as if the plug-in had sent
-    // them; the box answers each after its delay. Returns how many went in.
-    static int replay(DecoderBox &box, QList<Entry> const &entries);
+    // A saved log as if it happened again: its TX frames to the box that
+    // hears them (the real one while linked, else the simulated one, which
+    // answers each after its delay); a real box's reports as if it sent
+    // them now. False, with the reason in *error, for a log that can't be
+    // read, holds nothing to replay, or has TX frames that no box hears;
+    // nothing is replayed then.
+    static bool replay(SimulatorHost &host, QString const &file, QString *error);
 
 signals:
     void appended(FrameLog::Entry const &entry);

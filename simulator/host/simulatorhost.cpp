@@ -27,9 +27,13 @@ SimulatorHost::SimulatorHost(QObject *parent)
     connect(CanObj::instance(), &CanObj::sendDataToCan, this, [this](QByteArray const &frame) {
         emit frameSent(m_clock.elapsed(), frame);
     });
-    // The box hears a frame once it is on its way, after whoever logs it.
+    // The box hears a frame once it is on its way, after whoever logs it;
+    // while a real box is linked, the real one alone.
     connect(this, &SimulatorHost::frameSent, &m_box, [this](qint64, QByteArray const &frame) {
-        m_box.receive(frame);
+        if (m_link && m_link->state() != BoxLink::Unlinked)
+            m_link->send(frame);
+        else
+            m_box.receive(frame);
     }, Qt::QueuedConnection);
     // What the box can't answer goes to the debug lines too, where
     // scenarios look for it.
@@ -214,6 +218,64 @@ bool SimulatorHost::loadCatalogue(QString const &file, QString *error)
 QString SimulatorHost::catalogueError() const
 {
     return m_catalogueError;
+}
+
+void SimulatorHost::setLink(BoxLink *link)
+{
+    delete m_link;
+    m_link = link;
+    if (!link)
+        return;
+    link->setParent(this);
+    connect(link, &BoxLink::received, this, &SimulatorHost::report);
+    connect(link, &BoxLink::stateChanged, this, [this](BoxLink::State state, QString const &reason) {
+        if (state == BoxLink::Linked && m_box.isEnabled()) {
+            m_boxWasOn = true;
+            m_box.setEnabled(false);
+        } else if (state == BoxLink::Unlinked && m_boxWasOn) {
+            m_boxWasOn = false;
+            m_box.setEnabled(true);
+        }
+        emit linkStateChanged(state, reason);
+    });
+}
+
+BoxLink *SimulatorHost::link() const
+{
+    return m_link;
+}
+
+bool SimulatorHost::openLink(QString const &device, qint32 baudRate, QString *error)
+{
+    if (!m_link) {
+        *error = QStringLiteral("%1: this build has no serial link").arg(device);
+        return false;
+    }
+    return m_link->open(device, baudRate, error);
+}
+
+void SimulatorHost::closeLink()
+{
+    if (m_link)
+        m_link->close();
+}
+
+QList<FrameSplitter::Piece> SimulatorHost::pendingReports() const
+{
+    return m_reports;
+}
+
+void SimulatorHost::consumeReports(int count)
+{
+    m_reports.erase(m_reports.begin(), m_reports.begin() + qBound(0, count, m_reports.size()));
+}
+
+void SimulatorHost::report(FrameSplitter::Piece const &piece)
+{
+    m_reports.append(piece);
+    if (m_reports.size() > MaxReports)
+        m_reports.removeFirst();
+    emit reported(m_clock.elapsed(), piece);
 }
 
 void SimulatorHost::consumeCommand()

@@ -1,7 +1,6 @@
 #include "logpanel.h"
 
 #include "debuglog.h"
-#include "frames.h"
 #include "hostsim.h"
 #include "recorder.h"
 #include "simulatorhost.h"
@@ -28,10 +27,10 @@ constexpr int MaxDebugLines = 5000;
 
 enum Column { TimeColumn, DirectionColumn, BytesColumn, FamilyColumn, CommandColumn, MeaningColumn };
 
-QString byteText(QByteArray const &frame, int index)
+// A byte in hex; nothing for -1.
+QString byteText(int value)
 {
-    return frame.size() > index ? QStringLiteral("%1").arg(quint8(frame.at(index)), 2, 16, QLatin1Char('0')).toUpper()
-                                : QString();
+    return value < 0 ? QString() : QStringLiteral("%1").arg(value, 2, 16, QLatin1Char('0')).toUpper();
 }
 
 QTreeWidget *table(QStringList const &headers, QWidget *parent)
@@ -173,18 +172,7 @@ bool LogPanel::loadLog(QString const &file, QString *error)
 
 bool LogPanel::replayLog(QString const &file, QString *error)
 {
-    if (!m_host.box().isEnabled()) {
-        *error = tr("The decoder box is off: switch it on to replay a log");
-        return false;
-    }
-    QList<FrameLog::Entry> entries;
-    if (!FrameLog::load(file, &entries, error))
-        return false;
-    if (FrameLog::replay(m_host.box(), entries) == 0) {
-        *error = tr("%1 holds no TX frames").arg(file);
-        return false;
-    }
-    return true;
+    return FrameLog::replay(m_host, file, error);
 }
 
 bool LogPanel::startRecording(QString const &file, QString *error)
@@ -235,18 +223,17 @@ void LogPanel::toggleRecording(bool on)
 void LogPanel::appendEntry(FrameLog::Entry const &entry)
 {
     QByteArray const &frame = entry.frame;
-    // Family 2E has its command in byte 1, family FD (length first) in byte 2.
-    const int commandAt = !frame.isEmpty() && quint8(frame.at(0)) == Frames::FamilyFD ? 2 : 1;
-    auto *item = new QTreeWidgetItem(m_frames, {FrameLog::timeText(entry.ms),
-                                                entry.direction == FrameLog::Tx ? QStringLiteral("TX") : QStringLiteral("RX"),
-                                                FrameLog::bytesText(entry), byteText(frame, 0),
-                                                byteText(frame, commandAt), entry.meaning});
+    const bool noise = entry.fromBox && entry.piece == FrameSplitter::Noise;
+    auto *item = new QTreeWidgetItem(m_frames, {FrameLog::timeText(entry.ms), FrameLog::directionText(entry),
+                                                FrameLog::bytesText(entry),
+                                                byteText(noise || frame.isEmpty() ? -1 : quint8(frame.at(0))),
+                                                byteText(noise ? -1 : FrameSplitter::command(frame)), entry.meaning});
     if (entry.direction == FrameLog::Rx) {
         for (int column = 0; column < item->columnCount(); ++column)
             item->setForeground(column, Qt::darkBlue);
-    } else if (entry.meaning.startsWith(QLatin1String("unknown frame"))) {
-        item->setForeground(MeaningColumn, Qt::darkRed);
     }
+    if (entry.meaning.startsWith(QLatin1String("unknown frame")) || (entry.fromBox && entry.piece != FrameSplitter::Frame))
+        item->setForeground(MeaningColumn, Qt::darkRed);
     item->setHidden(!accepts(item));
     while (m_frames->topLevelItemCount() > MaxFrames)
         delete m_frames->takeTopLevelItem(0);

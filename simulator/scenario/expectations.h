@@ -4,8 +4,11 @@
 // The scenario commands that check what the plug-in did: the frames it sent
 // to the decoder box, the climate commands it gave the head unit, the rows
 // and titles of the extended view in front, the entries of an open list
-// dialog, what the screen shows, what the plug-in saved and logged. Frames and climate commands are read in order:
-// expect frame and expect command consume what they matched.
+// dialog, what the screen shows, what the plug-in saved and logged, what a
+// real decoder box sent. Frames and climate commands are read in order:
+// expect frame and expect command consume what they matched. expect rx
+// waits for a frame of the real box and consumes it with everything the box
+// sent before it.
 
 #include <QString>
 
@@ -32,6 +35,7 @@ private:
     bool checkScreen(Command const &command, QString *failure);
     bool checkHost(Command const &command, QString *failure);
     bool checkEntries(Command const &command, QString *failure);
+    bool checkReports(Command const &command, QString *failure);
 
     SimulatorHost &m_host;
 };

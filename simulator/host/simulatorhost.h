@@ -18,6 +18,7 @@
 #include <QString>
 #include <QVariantList>
 
+#include "boxlink.h"
 #include "decoderbox.h"
 #include "scenario.h"
 #include "screenprobe.h"
@@ -79,6 +80,27 @@ public:
     bool loadCatalogue(QString const &file, QString *error);
     QString catalogueError() const;
 
+    // --- A real decoder box ------------------------------------------------------
+
+    // The link to a real box (the host takes it as its child); none until
+    // set, and builds without a serial port have none.
+    void setLink(BoxLink *link);
+    BoxLink *link() const;
+    // Links a real box on the device: the frames the plug-in sends go out to
+    // it as well as to the log, and the simulated box is off while it is
+    // linked. False, with the device and the reason in *error, when the
+    // port can't be opened or there is no link.
+    bool openLink(QString const &device, qint32 baudRate, QString *error);
+    // Unlinks it; the simulated box is on again if it was before.
+    void closeLink();
+    // What the real box sent and nobody has taken yet, oldest first; the
+    // newest MaxReports are kept.
+    static constexpr int MaxReports = 10000;
+    QList<FrameSplitter::Piece> pendingReports() const;
+    void consumeReports(int count);
+    // Hands a report on as if the box had sent it: a saved log replayed.
+    void report(FrameSplitter::Piece const &piece);
+
 signals:
     // A frame went to the decoder box; ms since the host started.
     void frameSent(qint64 ms, QByteArray frame);
@@ -89,6 +111,10 @@ signals:
     // delivered).
     void commandStarted(Scenario::Command const &command);
     void commandFinished(Scenario::Command const &command);
+    // The real box sent something (ms since the host started); the link
+    // changed its state (reason: why it was lost).
+    void reported(qint64 ms, FrameSplitter::Piece const &piece);
+    void linkStateChanged(BoxLink::State state, QString const &reason);
 
 private:
     QPluginLoader m_loader;
@@ -100,6 +126,10 @@ private:
     int m_commandsConsumed = 0;
     DecoderBox m_box;
     QString m_catalogueError = QStringLiteral("no catalogue loaded");
+    BoxLink *m_link = nullptr;
+    QList<FrameSplitter::Piece> m_reports;
+    // The simulated box was on when the real one was linked.
+    bool m_boxWasOn = false;
 };
 
 #endif // SIMULATORHOST_H

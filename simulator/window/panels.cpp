@@ -8,6 +8,7 @@
 #include "cardoordata.h"
 #include "catalogue.h"
 #include "demo.h"
+#include "linkpanel.h"
 #include "eventpump.h"
 #include "hostsim.h"
 #include "radardata.h"
@@ -160,6 +161,7 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     connect(setData, &QPushButton::clicked, this, [this] { m_host.call(QStringLiteral("setData"), {QVariant()}); });
     viewGrid->addWidget(setData, 2, 1);
     layout->addWidget(views);
+    layout->addWidget(new LinkPanel(m_host, this));
     layout->addStretch(1);
     load();
 }

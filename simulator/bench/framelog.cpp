@@ -70,6 +70,36 @@ void FrameLog::attach(SimulatorHost &host)
         entry.meaning = QStringLiteral("dataChanged()");
         append(entry);
     });
+    connect(&host, &SimulatorHost::reported, this, [this](qint64 ms, FrameSplitter::Piece const &piece) {
+        append(boxEntry(ms, piece));
+    });
+}
+
+FrameLog::Entry FrameLog::boxEntry(qint64 ms, FrameSplitter::Piece const &piece)
+{
+    Entry entry;
+    entry.ms = ms;
+    entry.direction = Rx;
+    entry.protocolId = CanObj::id();
+    entry.fromBox = true;
+    entry.piece = piece.kind;
+    entry.frame = piece.bytes;
+    const QString command = QStringLiteral("box: command ")
+            + QStringLiteral("%1").arg(FrameSplitter::command(piece.bytes), 2, 16, QLatin1Char('0')).toUpper();
+    entry.meaning = piece.kind == FrameSplitter::Noise ? QStringLiteral("box: noise")
+            : piece.kind == FrameSplitter::BadChecksum ? command + QStringLiteral(", bad checksum") : command;
+    return entry;
+}
+
+QString FrameLog::directionText(Entry const &entry)
+{
+    if (entry.direction == Tx)
+        return QStringLiteral("TX");
+    if (entry.fromBox && entry.piece == FrameSplitter::BadChecksum)
+        return QStringLiteral("RX-BAD");
+    if (entry.fromBox && entry.piece == FrameSplitter::Noise)
+        return QStringLiteral("RX-NOISE");
+    return QStringLiteral("RX");
 }
 
 QList<FrameLog::Entry> const &FrameLog::entries() const
@@ -93,7 +123,7 @@ void FrameLog::clear()
 
 QString FrameLog::bytesText(Entry const &entry)
 {
-    if (entry.direction == Tx)
+    if (entry.direction == Tx || entry.fromBox)
         return Scenario::hex(entry.frame);
     QStringList parts;
     // Bytes that follow each other in one buffer make one run.
@@ -115,7 +145,7 @@ QString FrameLog::timeText(qint64 ms)
 
 QString FrameLog::line(Entry const &entry)
 {
-    QString text = seconds(entry.ms) + (entry.direction == Tx ? QStringLiteral(" TX") : QStringLiteral(" RX"));
+    QString text = seconds(entry.ms) + QLatin1Char(' ') + directionText(entry);
     const QString bytes = bytesText(entry);
     if (!bytes.isEmpty())
         text += QLatin1Char(' ') + bytes;
@@ -143,16 +173,38 @@ bool FrameLog::parseLine(QString const &text, int protocolId, Entry *entry, QStr
         return false;
     }
     parsed.ms = qRound64(time * 1000);
-    if (tokens.at(1) == QLatin1String("TX")) {
+    const QString direction = tokens.at(1);
+    auto frameInto = [&tokens, error](QByteArray *frame) {
         for (int i = 2; i < tokens.size(); ++i) {
             char byte;
             if (!hexByte(tokens.at(i), &byte)) {
                 *error = QStringLiteral("%1 is not a byte in hex").arg(tokens.at(i));
                 return false;
             }
-            parsed.frame.append(byte);
+            frame->append(byte);
         }
-    } else if (tokens.at(1) == QLatin1String("RX")) {
+        return true;
+    };
+    // A real box's report: RX and a frame's bytes (from its header 2E or
+    // FD, where an answer has PROTOCOL:OFFSET), or RX-BAD, RX-NOISE.
+    const bool boxFrame = direction == QLatin1String("RX") && tokens.size() > 2
+            && (tokens.at(2).compare(QLatin1String("2E"), Qt::CaseInsensitive) == 0
+                || tokens.at(2).compare(QLatin1String("FD"), Qt::CaseInsensitive) == 0);
+    if (boxFrame || direction == QLatin1String("RX-BAD") || direction == QLatin1String("RX-NOISE")) {
+        parsed.direction = Rx;
+        parsed.fromBox = true;
+        parsed.piece = boxFrame ? FrameSplitter::Frame
+                : direction == QLatin1String("RX-BAD") ? FrameSplitter::BadChecksum : FrameSplitter::Noise;
+        if (!frameInto(&parsed.frame))
+            return false;
+        if (parsed.frame.isEmpty()) {
+            *error = QStringLiteral("%1 without bytes").arg(direction);
+            return false;
+        }
+    } else if (direction == QLatin1String("TX")) {
+        if (!frameInto(&parsed.frame))
+            return false;
+    } else if (direction == QLatin1String("RX")) {
         parsed.direction = Rx;
         int bufferId = -1, offset = 0;
         for (int i = 2; i < tokens.size(); ++i) {
@@ -167,7 +219,7 @@ bool FrameLog::parseLine(QString const &text, int protocolId, Entry *entry, QStr
             parsed.written.append(DecoderBox::WrittenByte{bufferId, offset++, quint8(byte)});
         }
     } else {
-        *error = QStringLiteral("direction %1 is neither TX nor RX").arg(tokens.at(1));
+        *error = QStringLiteral("direction %1 is none of TX, RX, RX-BAD, RX-NOISE").arg(tokens.at(1));
         return false;
     }
     *entry = parsed;
@@ -177,7 +229,8 @@ bool FrameLog::parseLine(QString const &text, int protocolId, Entry *entry, QStr
 QString FrameLog::text(QList<Entry> const &entries)
 {
     QString text = QStringLiteral("# headunit-sim frame log: seconds, TX (plug-in to decoder box) or RX "
-                                  "(the box's answer: PROTOCOL:OFFSET and the bytes written), bytes in hex\n");
+                                  "(the box's answer: PROTOCOL:OFFSET and the bytes written; a real box's frame; RX-BAD its frame with a bad checksum, "
+                                  "RX-NOISE bytes that start no frame), bytes in hex\n");
     int protocolId = -1;
     for (Entry const &entry : entries) {
         if (entry.protocolId != protocolId) {
@@ -237,14 +290,32 @@ bool FrameLog::load(QString const &file, QList<Entry> *entries, QString *error)
     return parse(file, QString::fromUtf8(input.readAll()), entries, error);
 }
 
-int FrameLog::replay(DecoderBox &box, QList<Entry> const &entries)
+bool FrameLog::replay(SimulatorHost &host, QString const &file, QString *error)
 {
-    int count = 0;
-    for (Entry const &entry : entries) {
-        if (entry.direction != Tx)
-            continue;
-        box.receive(entry.frame);
-        ++count;
+    QList<Entry> entries;
+    if (!load(file, &entries, error))
+        return false;
+    BoxLink const *link = host.link();
+    const bool linked = link && link->state() != BoxLink::Unlinked;
+    bool anything = false;
+    for (Entry const &entry : qAsConst(entries)) {
+        if (entry.direction == Tx && !linked && !host.box().isEnabled()) {
+            *error = QStringLiteral("the decoder box is off (box on first)");
+            return false;
+        }
+        anything = anything || entry.direction == Tx || entry.fromBox;
     }
-    return count;
+    if (!anything) {
+        *error = QStringLiteral("%1 holds no TX frames and no reports of a box").arg(file);
+        return false;
+    }
+    for (Entry const &entry : qAsConst(entries)) {
+        if (entry.direction == Tx && linked)
+            host.link()->send(entry.frame);
+        else if (entry.direction == Tx)
+            host.box().receive(entry.frame);
+        else if (entry.fromBox)
+            host.report(FrameSplitter::Piece{entry.piece, entry.frame});
+    }
+    return true;
 }

@@ -1,6 +1,7 @@
 #include "decoderbox.h"
 
 #include "canobj.h"
+#include "framesplitter.h"
 #include "hostsim.h"
 #include "scenario.h"
 
@@ -11,13 +12,6 @@
 #include <QTimer>
 
 namespace {
-
-// The checksum's place: the last two bytes of an 0xFD frame on protocol 67,
-// the last byte elsewhere.
-int checksumBytes(QByteArray const &frame, int protocolId)
-{
-    return quint8(frame.at(0)) == 0xFD && protocolId == 67 ? 2 : 1;
-}
 
 // A request for a data group: 2E 90 ..., FD N 90 ..., FD N 8F ..., and the
 // one request with length and command swapped, FD 90 N ....
@@ -317,7 +311,7 @@ QString DecoderBox::check(QByteArray const &frame, int protocolId, QList<Answer>
         return QStringLiteral("no catalogue");
     if (!m_familyOfId.contains(protocolId))
         return QStringLiteral("protocol %1 has no pages").arg(protocolId);
-    const QByteArray bytes = frame.left(frame.size() - checksumBytes(frame, protocolId));
+    const QByteArray bytes = frame.left(frame.size() - FrameSplitter::checksumBytes(frame, protocolId));
     *found = matches(m_families.at(m_familyOfId.value(protocolId)), bytes);
     return found->isEmpty() ? QStringLiteral("unknown frame") : QString();
 }

@@ -52,8 +52,14 @@ enum class Kind {
     Screenshot,
     // The decoder box: on or off (name), its delay (numbers); a saved frame
     // log replayed into it (texts: the file).
-    Box, BoxDelay, Replay
+    Box, BoxDelay, Replay,
+    // A real decoder box: the port (texts), a frame it sends (frame: the
+    // command and the payload, numbers: the time to wait).
+    Serial, ExpectRx
 };
+
+// How long expect rx waits unless told.
+constexpr int DefaultRxWithinMs = 1000;
 
 // The value of id for the data buffer of the current protocol.
 constexpr int CurrentProtocol = -1;

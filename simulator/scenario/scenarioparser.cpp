@@ -448,11 +448,9 @@ bool parseExpect(Reader &in, Command *c)
         c->texts << text;
         return true;
     };
-    if (what == QLatin1String("frame")) {
-        c->kind = Kind::ExpectFrame;
-        if (in.atEnd())
-            return in.fail(QStringLiteral("bytes missing"));
-        while (!in.atEnd()) {
+    // Hex bytes or ?? into c->frame, up to the end or the word "within".
+    auto bytesInto = [&] {
+        while (!in.atEnd() && !(in.peek().text == QLatin1String("within") && !in.peek().quoted)) {
             const Token token = in.take();
             if (token.text == QLatin1String("??") && !token.quoted) {
                 c->frame << -1;
@@ -469,6 +467,31 @@ bool parseExpect(Reader &in, Command *c)
             c->frame << byte;
         }
         return true;
+    };
+    if (what == QLatin1String("frame")) {
+        c->kind = Kind::ExpectFrame;
+        if (in.atEnd())
+            return in.fail(QStringLiteral("bytes missing"));
+        return bytesInto() && in.end();
+    }
+    // expect rx COMMAND [PAYLOAD] [within MS]: the command and payload in
+    // c->frame, the time in numbers.
+    if (what == QLatin1String("rx")) {
+        c->kind = Kind::ExpectRx;
+        if (in.atEnd())
+            return in.fail(QStringLiteral("command missing"));
+        if (!bytesInto())
+            return false;
+        if (c->frame.isEmpty() || c->frame.first() < 0)
+            return in.fail(QStringLiteral("the command must be a hex byte"));
+        c->numbers << DefaultRxWithinMs;
+        if (!in.atEnd()) {
+            in.take();
+            c->numbers.clear();
+            if (!in.numberInto(QStringLiteral("milliseconds"), 0, MaxWaitMs, &c->numbers))
+                return false;
+        }
+        return in.end();
     }
     if (what == QLatin1String("frames")) {
         c->kind = Kind::ExpectFrames;
@@ -771,6 +794,18 @@ bool parseCommand(QString const &word, Reader &in, Command *c)
             return in.numberInto(QStringLiteral("milliseconds"), 0, MaxWaitMs, &c->numbers) && in.end();
         }
         return in.choice(QStringLiteral("box"), {QStringLiteral("on"), QStringLiteral("off")}, &c->name) && in.end();
+    }
+    // serial DEVICE[:BAUD]; ${NAME} in it stands for an environment
+    // variable, expanded when the line runs.
+    if (word == QLatin1String("serial")) {
+        c->kind = Kind::Serial;
+        QString target;
+        if (!in.text(QStringLiteral("device"), &target))
+            return false;
+        if (target.isEmpty())
+            return in.fail(QStringLiteral("empty device name"));
+        c->texts << target;
+        return in.end();
     }
     // The commands that take one file: a picture to write, a frame log to
     // replay.

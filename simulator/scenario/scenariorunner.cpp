@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QWidget>
 
@@ -102,6 +103,8 @@ bool Runner::execute(Command const &command, QString *failure)
         held = setBox(command, failure);
     else if (command.kind == Kind::Replay)
         held = replay(command.texts.value(0), failure);
+    else if (command.kind == Kind::Serial)
+        held = linkBox(command.texts.value(0), failure);
     else
         held = giveInput(command, failure);
     EventPump::settle();
@@ -111,25 +114,39 @@ bool Runner::execute(Command const &command, QString *failure)
 
 bool Runner::replay(QString const &file, QString *failure)
 {
-    DecoderBox &box = m_host.box();
-    if (!box.isEnabled()) {
-        *failure = QStringLiteral("expected the decoder box on got off (box on first)");
-        return false;
-    }
-    QList<FrameLog::Entry> entries;
     QString error;
-    if (!FrameLog::load(file, &entries, &error)) {
-        *failure = QStringLiteral("expected a frame log got %1").arg(error);
-        return false;
-    }
-    if (FrameLog::replay(box, entries) == 0) {
-        *failure = QStringLiteral("expected TX frames in %1 got none").arg(file);
+    if (!FrameLog::replay(m_host, file, &error)) {
+        *failure = QStringLiteral("expected a replay got %1").arg(error);
         return false;
     }
     // The box answers each frame after its delay: the pages follow before
     // the next line.
     constexpr int AnswerMarginMs = 20;
-    EventPump::wait(box.delay() + AnswerMarginMs);
+    EventPump::wait(m_host.box().delay() + AnswerMarginMs);
+    return true;
+}
+
+bool Runner::linkBox(QString const &target, QString *failure)
+{
+    // ${NAME}: the environment's, so that one scenario names the stand-in
+    // of the tests and the port of a bench.
+    static const QRegularExpression variable(QStringLiteral("\\$\\{([A-Za-z_][A-Za-z0-9_]*)\\}"));
+    QString expanded = target;
+    QRegularExpressionMatch match;
+    while ((match = variable.match(expanded)).hasMatch()) {
+        const QString name = match.captured(1);
+        if (!qEnvironmentVariableIsSet(qPrintable(name))) {
+            *failure = QStringLiteral("expected the environment variable %1 for serial %2 got none").arg(name, target);
+            return false;
+        }
+        expanded.replace(match.capturedStart(), match.capturedLength(), qEnvironmentVariable(qPrintable(name)));
+    }
+    QString device, error;
+    qint32 baudRate = 0;
+    if (!BoxLink::parseTarget(expanded, &device, &baudRate, &error) || !m_host.openLink(device, baudRate, &error)) {
+        *failure = QStringLiteral("expected a decoder box on serial %1 got %2").arg(expanded, error);
+        return false;
+    }
     return true;
 }
 

@@ -59,6 +59,7 @@ private:
     void callRoot(Command const &command);
     bool setBox(Command const &command, QString *failure);
     bool replay(QString const &file, QString *failure);
+    bool linkBox(QString const &target, QString *failure);
     bool giveInput(Command const &command, QString *failure);
 
     SimulatorHost &m_host;
