@@ -47,7 +47,7 @@ languages() {
         echo "${name%.ts}"
     done
 }
-LANGUAGES=$(languages | tr '\n' ' ')
+LANGUAGES=$(languages | tr '\n' ' ' | sed 's/ $//')
 
 # render SIMULATOR FOLDER [again]: every language's gallery into
 # FOLDER/LANGUAGE/, the languages side by side. A language whose folder

@@ -22,6 +22,7 @@
 #include <QLocale>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -227,7 +228,12 @@ int compare(Options const &options)
 
 int main(int argc, char **argv)
 {
+    // Pictures are read and drawn off screen; a machine without a runtime
+    // directory gets a private one, so that Qt doesn't warn.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryDir runtime;
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
     QGuiApplication app(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("gallerycheck"));
     QCommandLineParser parser;
