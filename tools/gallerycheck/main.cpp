@@ -22,7 +22,6 @@
 #include <QLocale>
 #include <QRegularExpression>
 #include <QSaveFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -47,16 +46,6 @@ struct Options
 void print(FILE *stream, QString const &line)
 {
     std::fprintf(stream, "%s\n", qPrintable(line));
-}
-
-bool save(QString const &path, QByteArray const &content)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
-        print(stderr, QStringLiteral("gallerycheck: can't write %1: %2").arg(path, file.errorString()));
-        return false;
-    }
-    return true;
 }
 
 QString languageName(QString const &language)
@@ -218,8 +207,12 @@ int compare(Options const &options)
         if (!options.noRenders.isEmpty())
             html += QStringLiteral("<p><b>No reference pictures:</b> %1</p>\n").arg(options.noRenders.toHtmlEscaped());
         html += sections + QStringLiteral("</body></html>\n");
-        if (!save(QDir(options.diff).filePath(QStringLiteral("index.html")), html.toUtf8()))
+        QSaveFile index(QDir(options.diff).filePath(QStringLiteral("index.html")));
+        const QByteArray bytes = html.toUtf8();
+        if (!index.open(QIODevice::WriteOnly) || index.write(bytes) != bytes.size() || !index.commit()) {
+            print(stderr, QStringLiteral("gallerycheck: can't write %1: %2").arg(index.fileName(), index.errorString()));
             return Unreadable;
+        }
     }
     return status;
 }
@@ -228,50 +221,41 @@ int compare(Options const &options)
 
 int main(int argc, char **argv)
 {
-    // Pictures are read and drawn off screen; a machine without a runtime
-    // directory gets a private one, so that Qt doesn't warn.
+    // Pictures are read and drawn off screen.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QTemporaryDir runtime;
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
     QGuiApplication app(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("gallerycheck"));
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Holds the simulator's gallery against its reference of pixel digests."));
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("digests or compare"));
-    const QCommandLineOption language(QStringLiteral("language"), QStringLiteral("digests: the gallery's locale"),
-                                      QStringLiteral("locale"));
-    const QCommandLineOption commit(QStringLiteral("commit"), QStringLiteral("digests: the commit the gallery was made at"),
-                                    QStringLiteral("sha"));
-    const QCommandLineOption references(QStringLiteral("references"),
-                                        QStringLiteral("compare: the folder of the reference-LANGUAGE.txt files"),
-                                        QStringLiteral("dir"));
-    const QCommandLineOption gallery(QStringLiteral("gallery"),
-                                     QStringLiteral("compare: the folder of the galleries, one folder per language"),
-                                     QStringLiteral("dir"));
-    const QCommandLineOption diff(QStringLiteral("diff"),
-                                  QStringLiteral("compare: write the differing pictures side by side here"),
-                                  QStringLiteral("dir"));
-    const QCommandLineOption renders(QStringLiteral("renders"),
-                                     QStringLiteral("compare: the reference's pictures, as COMMIT/LANGUAGE/ here"),
-                                     QStringLiteral("dir"));
-    const QCommandLineOption noRenders(QStringLiteral("no-renders"),
-                                       QStringLiteral("compare: why there are no reference pictures"),
-                                       QStringLiteral("reason"));
-    parser.addOptions({language, commit, references, gallery, diff, renders, noRenders});
-    parser.process(app);
-
     Options options;
+    const struct
+    {
+        const char *name;
+        const char *description;
+        const char *valueName;
+        QString *value;
+    } table[] = {
+        {"language", "digests: the gallery's locale", "locale", &options.language},
+        {"commit", "digests: the commit the gallery was made at", "sha", &options.commit},
+        {"references", "compare: the folder of the reference-LANGUAGE.txt files", "dir", &options.references},
+        {"gallery", "compare: the folder of the galleries, one folder per language", "dir", &options.gallery},
+        {"diff", "compare: write the differing pictures side by side here", "dir", &options.diff},
+        {"renders", "compare: the reference's pictures, as COMMIT/LANGUAGE/ here", "dir", &options.renders},
+        {"no-renders", "compare: why there are no reference pictures", "reason", &options.noRenders},
+    };
+    QList<QCommandLineOption> list;
+    for (auto const &option : table) {
+        list << QCommandLineOption(QString::fromLatin1(option.name), QString::fromLatin1(option.description),
+                                   QString::fromLatin1(option.valueName));
+    }
+    parser.addOptions(list);
+    parser.process(app);
+    for (int i = 0; i < list.size(); ++i)
+        *table[i].value = parser.value(list.at(i));
     options.arguments = parser.positionalArguments();
     options.command = options.arguments.isEmpty() ? QString() : options.arguments.takeFirst();
-    options.language = parser.value(language);
-    options.commit = parser.value(commit);
-    options.references = parser.value(references);
-    options.gallery = parser.value(gallery);
-    options.diff = parser.value(diff);
-    options.renders = parser.value(renders);
-    options.noRenders = parser.value(noRenders);
     if (options.command == QLatin1String("digests"))
         return digests(options);
     if (options.command == QLatin1String("compare"))
