@@ -11,6 +11,11 @@
 # `make api-guard` looks for Qt API from after Qt 5.3 there (the suite runs it
 # too, as the test qt53_api_guard).
 # `make check` runs the three and the lint, one after the other, as CI does.
+# `make gallery-check` renders the simulator's gallery in every language and
+# compares each picture's pixels with tests/gallery/reference-LANGUAGE.txt;
+# differing pictures go side by side into build/gallery-diff/ (`make test`
+# runs it after the suite, on the desktop build only). `make gallery-accept`
+# writes the references anew after a change that is meant.
 # `make translations` brings translations/*.ts up to date with the code.
 # `make package` makes the bench's Debian package from the desktop build into
 # build/packages; `make package-armhf` the head unit's from the armhf build
@@ -40,7 +45,8 @@ SANITIZER_ENV = ASAN_OPTIONS=detect_leaks=1:halt_on_error=1:detect_stack_use_aft
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tools/lsan.supp:print_suppressions=0
 
-.PHONY: all setup configure build test test-sanitize test-armhf lint api-guard check demo clean package package-armhf translations
+.PHONY: all setup configure build test test-sanitize test-armhf lint api-guard check demo clean package package-armhf translations \
+	gallery-check gallery-accept
 
 all: build
 
@@ -55,12 +61,24 @@ build: configure
 
 test: build
 	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+	@JOBS=$(JOBS) sh tools/gallery.sh check $(BUILD_DIR)
+
+gallery-check: build
+	@JOBS=$(JOBS) sh tools/gallery.sh check $(BUILD_DIR)
+
+gallery-accept: build
+	@JOBS=$(JOBS) sh tools/gallery.sh accept $(BUILD_DIR)
+
+# The gallery's pictures are the desktop's: the sanitizer and armhf runs
+# leave them to make test.
+GALLERY_SKIPPED = echo "gallery check: skipped in this build; make test checks the gallery on the desktop build"
 
 test-sanitize: setup
 	@cmake -S . -B $(SANITIZE_DIR) -DCARCONTROL_SANITIZE=ON
 	@$(SANITIZER_ENV) cmake --build $(SANITIZE_DIR) -j $(JOBS)
 	@cd $(SANITIZE_DIR) && QT_QPA_PLATFORM=offscreen CARCONTROL_FUZZ_ROUNDS=$(FUZZ_ROUNDS) $(SANITIZER_ENV) \
 		ctest --output-on-failure -j $(JOBS)
+	@$(GALLERY_SKIPPED)
 
 test-armhf:
 	@sh tools/setup.sh armhf
@@ -78,6 +96,7 @@ test-armhf:
 	@CARCONTROL_PLUGINCHECK_CONFIG=$(ARMHF_DIR)/plugincheck.json CARCONTROL_UNIT_LOADER=$(ARMHF_DIR)/tests/unitloader \
 		CARCONTROL_EMULATOR="qemu-arm -L $(abspath $(ARMHF_SYSROOT))" QT_QPA_PLATFORM=offscreen \
 		sh tests/package_check.sh headunit $(ARMHF_DIR)-unit .
+	@$(GALLERY_SKIPPED)
 
 lint: build
 	@sh tools/setup.sh lint
