@@ -154,6 +154,12 @@ int main(int argc, char *argv[])
     QString boxError;
     const bool boxReady = host.loadCatalogue(
         options.catalogue.isEmpty() ? SimulatorHost::defaultCatalogueFile() : options.catalogue, &boxError);
+    // A catalogue named on the command line is the one wanted: one that
+    // can't be read, or that the box refuses, stops the run.
+    if (!boxReady && !options.catalogue.isEmpty()) {
+        printError(boxError);
+        return StartFailed;
+    }
     if (options.boxCoverage) {
         if (!boxReady) {
             printError(QStringLiteral("no decoder box: %1").arg(boxError));

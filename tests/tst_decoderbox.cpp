@@ -248,6 +248,56 @@ private slots:
         QVERIFY(!box.isLoaded());
     }
 
+    // A catalogue is checked whole when it is read: an offset, mask or
+    // value that doesn't fit the 8,192-byte buffer refuses it, naming the
+    // entry, and nothing of it stays loaded. Offsets near INT_MAX once
+    // overflowed the check and crashed the sample writer and the recorder.
+    void catalogueOutOfRangeIsRefused_data()
+    {
+        QTest::addColumn<QJsonObject>("row");
+        QTest::addColumn<QString>("reason");
+        const auto text = [](QJsonValue offset) {
+            return QJsonObject{{"title", "Name"}, {"source", QJsonObject{{"type", "text"}, {"offset", offset}}}};
+        };
+        const auto sample = [](QJsonArray write) {
+            return QJsonObject{{"title", "Bass"}, {"sample", QJsonObject{{"value", 1}, {"writes", QJsonArray{write}}}}};
+        };
+        QTest::newRow("text near INT_MAX") << text(2147483645)
+                                           << "row 1 \"Name\": text offset 2147483645 outside the buffer (0..8188)";
+        QTest::newRow("text past the end") << text(8190) << "text offset 8190 outside";
+        QTest::newRow("text beyond int") << text(1e12) << "text offset 1000000000000 outside";
+        QTest::newRow("text negative") << text(-4) << "text offset -4 outside";
+        QTest::newRow("text fraction") << text(60.5) << "text offset 60.5 outside";
+        QTest::newRow("text missing") << text(QJsonValue()) << "text offset null outside";
+        QTest::newRow("write past the end") << sample({8192, 255, 1}) << "sample: write [8192,255,1] is not";
+        QTest::newRow("write mask") << sample({10, 256, 1}) << "sample: write [10,256,1] is not";
+        QTest::newRow("write short") << sample({10, 255}) << "sample: write [10,255] is not";
+        QTest::newRow("step write") << QJsonObject{{"title", "Treble"}, {"adjustable", true},
+                                                   {"steps", QJsonArray{step(9, "2E A8 02 01 09 ck",
+                                                                             QJsonArray{QJsonArray{-1, 255, 9}})}}}
+                                    << "row 1 \"Treble\": step 1: write [-1,255,9] is not";
+    }
+
+    void catalogueOutOfRangeIsRefused()
+    {
+        QFETCH(QJsonObject, row);
+        QFETCH(QString, reason);
+        const QJsonObject catalogue{
+            {"families", QJsonArray{QJsonObject{{"family", 28}, {"ids", QJsonArray{28}},
+                                                {"pages", QJsonArray{QJsonObject{{"title", "Fine"}, {"rows", QJsonArray()}}}}},
+                                    QJsonObject{{"family", 30}, {"ids", QJsonArray{30}},
+                                                {"pages", QJsonArray{QJsonObject{{"index", 1}, {"rows", QJsonArray{row}}}}}}}}};
+        DecoderBox box;
+        QString error;
+        QVERIFY(!box.load(catalogue, &error));
+        QVERIFY2(error.startsWith("family 30: page 30_2, row 1 "), qPrintable(error));
+        QVERIFY2(error.contains(reason), qPrintable(error));
+        QVERIFY(!box.isLoaded());
+        QVERIFY(box.pageTitles(28).isEmpty());
+        QVERIFY(!box.writeSamples(30));
+        QVERIFY(box.textOffsets(30).isEmpty());
+    }
+
     void samplesForTheDemoScreens()
     {
         DecoderBox box;

@@ -12,6 +12,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
 #include <QObject>
@@ -36,7 +37,9 @@ public:
     explicit DecoderBox(QObject *parent = nullptr);
 
     // Reads an exported catalogue. False, with the reason in *error, for a
-    // missing or malformed file; the box then knows no frames and stays off.
+    // missing or malformed file, or an entry whose offset, mask or value
+    // doesn't fit the buffer (named by family, page and row); the box then
+    // knows no frames and stays off.
     bool load(QString const &file, QString *error);
     bool load(QJsonObject const &catalogue, QString *error);
     bool isLoaded() const;
@@ -144,6 +147,10 @@ private:
         QList<int> textOffsets;
     };
 
+    // One family of the catalogue into m_families; false, with the entry
+    // and the reason in *error, for a value out of range.
+    bool readFamily(QJsonObject const &family, QString *error);
+    static bool readWrites(QJsonArray const &array, QList<Write> *writes, QString *error);
     // The steps of the family whose frame is bytes, answered or not.
     QList<Answer> matches(Family const &family, QByteArray const &bytes) const;
     // Why the box refuses the frame under the protocol, or empty; *found
