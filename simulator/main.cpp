@@ -234,11 +234,12 @@ int main(int argc, char *argv[])
     Scenario::Script script;
     if (!options.script.isEmpty()) {
         QString name, source;
-        if (!Scenario::read(options.script, &name, &source, &error)) {
+        QByteArray bytes;
+        if (!Scenario::read(options.script, &name, &bytes, &error)) {
             printError(error);
             return StartFailed;
         }
-        if (!Scenario::parse(name, source, &script, &error)) {
+        if (!Scenario::decode(name, bytes, &source, &error) || !Scenario::parse(name, source, &script, &error)) {
             std::fprintf(stderr, "%s\n", qPrintable(error));
             return Scenario::Malformed;
         }

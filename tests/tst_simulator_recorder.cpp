@@ -160,6 +160,18 @@ void TestSimulatorRecorder::malformedLogLines_data()
     QTest::newRow("byte") << "1.000 TX 2E 9G" << "9G is not a byte in hex";
     QTest::newRow("three digits") << "1.000 TX 2E 123" << "123 is not a byte in hex";
     QTest::newRow("answer without place") << "1.000 RX 0A" << "0A is neither PROTOCOL:OFFSET nor a byte in hex after one";
+    // A byte is two hex digits, nothing that a number reader would take.
+    QTest::newRow("minus") << "1.000 TX 2E -1" << "-1 is not a byte in hex";
+    QTest::newRow("plus") << "1.000 TX 2E +C" << "+C is not a byte in hex";
+    QTest::newRow("prefix") << "1.000 TX 0x2E" << "0x2E is not a byte in hex";
+    QTest::newRow("signed place") << "1.000 RX +28:-1 0A" << "+28:-1 is neither PROTOCOL:OFFSET nor a byte in hex after one";
+    // Seconds since the start: finite, not negative, as the log writes them.
+    QTest::newRow("infinite") << "inf TX 2E" << "time inf is not a number of seconds";
+    QTest::newRow("not a number") << "nan TX 2E" << "time nan is not a number of seconds";
+    QTest::newRow("huge") << "1e300 TX 2E" << "time 1e300 is not a number of seconds";
+    QTest::newRow("negative") << "-0.5 TX 2E" << "time -0.5 is not a number of seconds";
+    QTest::newRow("bare TX") << "1.0 TX" << "a TX line without the frame's bytes";
+    QTest::newRow("long word") << "1.000 TX " + QString(300, 'A') << QString(120, 'A') + "... is not a byte in hex";
 }
 
 void TestSimulatorRecorder::malformedLogLines()
