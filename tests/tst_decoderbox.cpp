@@ -200,14 +200,18 @@ private slots:
         QTest::addColumn<int>("protocol");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("meaning");
-        QTest::newRow("2E, a step") << 28 << frame("2E A8 02 01 0A ck") << QString("28_2 \"Treble\" -> 10");
+        QTest::newRow("2E, a step") << 28 << frame("2E A8 02 01 0A ck") << QString("28_2 \"Treble\" -> 1 (raw 10)");
         QTest::newRow("2E, another row") << 28 << frame("2E A8 02 00 01 ck") << QString("28_2 \"volume\" -> 1");
         QTest::newRow("2E, family 124") << 124 << frame("2E C6 03 01 01 00 ck", 124)
-                                        << QString("124_2 \"Automatic locking mode\" -> 1");
+                                        << QString("124_2 \"Automatic locking mode\" -> Lock:exiting park,unlock:enter park (raw 1)");
         QTest::newRow("FD, two checksum bytes") << 67 << frame("FD 05 05 02 ck ck", 67)
                                                 << QString("67_4 \"Volume adjustment\" -> 2");
         QTest::newRow("FD, bytes that don't carry the value") << 87
-            << frame("FD 0B C5 01 12 34 56 78 9A BC DE ck", 87) << QString("87_1 \"front and rear balance\" -> 3");
+            << frame("FD 0B C5 01 12 34 56 78 9A BC DE ck", 87) << QString("87_1 \"front and rear balance\" -> -6 (raw 3)");
+        // What the row shows for the value, beside the raw value: a signed
+        // level, a choice's option.
+        QTest::newRow("2E, signed") << 30 << frame("2E 84 02 04 02 ck", 30) << QString("30_4 \"BASS indicator\" -> -5 (raw 0)");
+        QTest::newRow("2E, choice") << 30 << frame("2E 84 02 03 08 ck", 30) << QString("30_4 \"ASL indicator\" -> ASL ON (raw 1)");
         QTest::newRow("request") << 28 << frame("2E 90 02 51 00 ck") << QString("request");
         QByteArray bad = frame("2E A8 02 01 0A ck");
         bad[5] = char(bad.at(5) ^ 1);

@@ -267,7 +267,7 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
     QCOMPARE(frames->topLevelItemCount(), before + 1);
     const QStringList row = lastRow(frames);
     // With the catalogue, what the frame means: the page, the row, the value.
-    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "28_2 \"Treble\" -> 13"}));
+    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "28_2 \"Treble\" -> 4 (raw 13)"}));
     QVERIFY(row.at(0).contains('.'));
 
     // The command line runs any scenario command.

@@ -249,6 +249,7 @@ bool DecoderBox::readFamily(QJsonObject const &familyJson, QString *error)
                 answer.title = title;
                 answer.value = step.value(QLatin1String("value")).toInt();
                 answer.shows = step.value(QLatin1String("shows")).toBool();
+                answer.shown = step.value(QLatin1String("text")).toString();
                 if (!parseFrame(step.value(QLatin1String("frame")).toString(), &answer.bytes, &answer.care))
                     continue;
                 const QByteArray care = QByteArray::fromHex(step.value(QLatin1String("care")).toString().toLatin1());
@@ -406,8 +407,14 @@ QString DecoderBox::describe(QByteArray const &frame, int protocolId) const
     bool shows = false;
     for (Answer const &answer : qAsConst(found))
         shows = shows || answer.shows;
-    return QStringLiteral("%1 %2 -> %3%4").arg(first.page, Scenario::quoted(first.title)).arg(first.value)
-            .arg(shows ? QString() : QStringLiteral(", no answer"));
+    // What the row shows once the car reports the value, with the raw value
+    // beside it where the two differ; a catalogue without the row's text
+    // gives the raw value.
+    const QString raw = QString::number(first.value);
+    const QString value = first.shown.isEmpty() || first.shown == raw
+            ? raw : QStringLiteral("%1 (raw %2)").arg(first.shown, raw);
+    return QStringLiteral("%1 %2 -> %3%4").arg(first.page, Scenario::quoted(first.title), value,
+                                              shows ? QString() : QStringLiteral(", no answer"));
 }
 
 QList<int> DecoderBox::textOffsets(int protocolId) const

@@ -79,7 +79,8 @@ public:
     // catalogue doesn't know.
     QString familyName(int protocolId) const;
     // What a frame means to the box under the protocol: the page, the row's
-    // title and the value that the frame sets (28_2 "Treble" -> 8), a
+    // title and the value that the frame sets, as the row shows it and raw
+    // (28_2 "Treble" -> -1 (raw 8)), a
     // request, or "unknown frame" with the reason the box refuses it. Where
     // the catalogue knows the frame but the box doesn't answer it, ", no
     // answer" follows. Works with the box off too.
@@ -130,6 +131,9 @@ private:
         QString page;
         QString title;
         int value;
+        // What the row shows for the value ("3", "ASL ON"); empty where the
+        // catalogue doesn't say.
+        QString shown;
         // The box answers the frame (the page shows what it writes).
         bool shows;
     };
