@@ -257,7 +257,11 @@ int main(int argc, char *argv[])
         }
         int status = Scenario::Passed;
         if (options.script.isEmpty()) {
-            const Scenario::Result start = Demo::startCar(host, options.protocol);
+            Scenario::Result start;
+            if (options.zeroed)
+                Demo::selectProtocol(host, options.protocol);
+            else
+                start = Demo::startCar(host, options.protocol);
             if (start.status != Scenario::Passed) {
                 printError(start.message);
                 return StartFailed;
@@ -288,8 +292,10 @@ int main(int argc, char *argv[])
     if (!zoom && QGuiApplication::platformName() != QLatin1String("offscreen") && QGuiApplication::primaryScreen())
         zoom = MainWindow::fittingZoom(QGuiApplication::primaryScreen()->availableGeometry().size());
     MainWindow window(host, zoom ? zoom : 100);
+    if (QGuiApplication::platformName() != QLatin1String("offscreen") && QGuiApplication::primaryScreen())
+        window.fitDesktop(QGuiApplication::primaryScreen()->availableGeometry().size());
     if (options.script.isEmpty())
-        window.startDemoCar(options.protocol);
+        window.startDemoCar(options.protocol, !options.zeroed);
     // In the window the car answers: the box is on.
     host.box().setEnabled(true);
     LogPanel *logs = window.findChild<LogPanel *>();

@@ -45,10 +45,14 @@ const Option Table[] = {
      "index.html into DIR (made if missing), headless"},
     {"box-coverage", "", "print how many adjustable rows the decoder box answers"},
     {"catalogue", "FILE",
-     "the decoder box's catalogue (default: $CARCONTROL_CATALOGUE_FILE, else the build's)"},
+     "the decoder box's catalogue (default: $CARCONTROL_CATALOGUE_FILE, else the build's); one named "
+     "here must be readable and valid"},
     {"protocol", "N",
      "start on protocol N (default 28): the window and --screenshot with the catalogue's sample data, "
      "a scenario with nothing else (its protocol line wins)"},
+    {"zeroed", "",
+     "start with zeroed buffers: --protocol and the window without demo or sample data, and the Car panel's "
+     "Sample data off"},
     {"clock", "HH:MM", "the head unit's clock stands at this time (--demo and --gallery: 10:08 unless given)"},
     {"list-protocols", "", "print every protocol id with its family's first pages"},
     {"zoom", "PERCENT", "the window's screen at 50 to 100 per cent of its size (default: what fits the desktop)"},
@@ -189,6 +193,7 @@ bool parse(QStringList const &arguments, Values *values, QString *error)
     v.listProtocols = parser.isSet(QStringLiteral("list-protocols"));
     v.version = parser.isSet(QStringLiteral("version"));
     v.verbose = parser.isSet(QStringLiteral("verbose"));
+    v.zeroed = parser.isSet(QStringLiteral("zeroed"));
     v.help = parser.isSet(QStringLiteral("help"));
     v.manualPage = parser.isSet(QLatin1String(ManualPageOption));
     v.window = parser.isSet(QStringLiteral("window")) || parser.isSet(QStringLiteral("window-screenshot"));
