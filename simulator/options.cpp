@@ -336,7 +336,16 @@ QString manualPage()
         ".TP\n"
         ".B CARCONTROL_PLUGIN_DIR, CARCONTROL_RESOURCE_ROOT, CARCONTROL_CATALOGUE_FILE\n"
         "override where the plug-ins, the artwork and the catalogue are; by default\n"
-        "they lie beside the installed program.\n");
+        "they lie beside the installed program.\n"
+        ".SH FILES\n"
+        ".TP\n"
+        ".I /usr/share/doc/carcontrol-bench/scenarios.md\n"
+        "the scenario language: every command, its arguments and what it checks.\n"
+        ".TP\n"
+        ".I /usr/share/doc/carcontrol-bench/examples/\n"
+        "example scenarios, one or more for each family of pages; run one with\n"
+        ".B headunit-sim \\-\\-script\n"
+        ".IR FILE .\n");
     return page;
 }
 
