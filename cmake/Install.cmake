@@ -85,4 +85,15 @@ if(CARCONTROL_INSTALL_LAYOUT STREQUAL "bench")
     configure_file("${CMAKE_SOURCE_DIR}/packaging/headunit-sim.1" "${CMAKE_BINARY_DIR}/packaging/headunit-sim.1" COPYONLY)
     execute_process(COMMAND gzip -9nf "${CMAKE_BINARY_DIR}/packaging/headunit-sim.1")
     install(FILES "${CMAKE_BINARY_DIR}/packaging/headunit-sim.1.gz" DESTINATION share/man/man1 COMPONENT simulator)
+    # The scenario language's reference (the README's section) and the
+    # scenarios of the tests as examples, which the manual page points to.
+    file(READ "${CMAKE_SOURCE_DIR}/README.md" _carcontrol_readme)
+    string(REGEX MATCH "\n### Scenarios\n.*" _carcontrol_scenarios "${_carcontrol_readme}")
+    string(REGEX REPLACE "\n## .*" "\n" _carcontrol_scenarios "${_carcontrol_scenarios}")
+    string(REGEX REPLACE "^\n###" "#" _carcontrol_scenarios "${_carcontrol_scenarios}")
+    file(WRITE "${CMAKE_BINARY_DIR}/packaging/scenarios.md" "${_carcontrol_scenarios}")
+    install(FILES "${CMAKE_BINARY_DIR}/packaging/scenarios.md"
+        DESTINATION share/doc/carcontrol-bench COMPONENT simulator)
+    file(GLOB _carcontrol_examples "${CMAKE_SOURCE_DIR}/tests/scenarios/*.scn")
+    install(FILES ${_carcontrol_examples} DESTINATION share/doc/carcontrol-bench/examples COMPONENT simulator)
 endif()

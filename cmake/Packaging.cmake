@@ -40,6 +40,8 @@ This package holds the simulator with the plug-in, the sample reverse
 plug-in, the desktop stand-in of the head unit's libraries, the artwork
 and the catalogue of the decoder box's frames.")
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+    # --language zh_CN draws its texts with a CJK font; without one, boxes.
+    set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-wqy-microhei | fonts-noto-cjk")
     # The desktop host is the package's own: no other package provides it.
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_BINARY_DIR}/lib")
 endif()

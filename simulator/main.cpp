@@ -156,6 +156,12 @@ int main(int argc, char *argv[])
     QString boxError;
     const bool boxReady = host.loadCatalogue(
         options.catalogue.isEmpty() ? SimulatorHost::defaultCatalogueFile() : options.catalogue, &boxError);
+    // A catalogue named on the command line is the one wanted: one that
+    // can't be read, or that the box refuses, stops the run.
+    if (!boxReady && !options.catalogue.isEmpty()) {
+        printError(boxError);
+        return StartFailed;
+    }
     if (options.boxCoverage) {
         if (!boxReady) {
             printError(QStringLiteral("no decoder box: %1").arg(boxError));
@@ -230,11 +236,12 @@ int main(int argc, char *argv[])
     Scenario::Script script;
     if (!options.script.isEmpty()) {
         QString name, source;
-        if (!Scenario::read(options.script, &name, &source, &error)) {
+        QByteArray bytes;
+        if (!Scenario::read(options.script, &name, &bytes, &error)) {
             printError(error);
             return StartFailed;
         }
-        if (!Scenario::parse(name, source, &script, &error)) {
+        if (!Scenario::decode(name, bytes, &source, &error) || !Scenario::parse(name, source, &script, &error)) {
             std::fprintf(stderr, "%s\n", qPrintable(error));
             return Scenario::Malformed;
         }
@@ -263,7 +270,11 @@ int main(int argc, char *argv[])
             return StartFailed;
         int status = Scenario::Passed;
         if (options.script.isEmpty()) {
-            const Scenario::Result start = Demo::startCar(host, options.protocol);
+            Scenario::Result start;
+            if (options.zeroed)
+                Demo::selectProtocol(host, options.protocol);
+            else
+                start = Demo::startCar(host, options.protocol);
             if (start.status != Scenario::Passed) {
                 printError(start.message);
                 return StartFailed;
@@ -294,8 +305,10 @@ int main(int argc, char *argv[])
     if (!zoom && QGuiApplication::platformName() != QLatin1String("offscreen") && QGuiApplication::primaryScreen())
         zoom = MainWindow::fittingZoom(QGuiApplication::primaryScreen()->availableGeometry().size());
     MainWindow window(host, zoom ? zoom : 100);
+    if (QGuiApplication::platformName() != QLatin1String("offscreen") && QGuiApplication::primaryScreen())
+        window.fitDesktop(QGuiApplication::primaryScreen()->availableGeometry().size());
     if (options.script.isEmpty())
-        window.startDemoCar(options.protocol);
+        window.startDemoCar(options.protocol, !options.zeroed);
     // In the window the car answers: the box is on.
     host.box().setEnabled(true);
     if (!linkBox())

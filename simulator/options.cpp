@@ -50,10 +50,14 @@ const Option Table[] = {
      "(default 38400): the frames go out on it, what it sends back shows in the frame log, and the "
      "simulated box is off; a port that can't be opened ends the simulator with 3"},
     {"catalogue", "FILE",
-     "the decoder box's catalogue (default: $CARCONTROL_CATALOGUE_FILE, else the build's)"},
+     "the decoder box's catalogue (default: $CARCONTROL_CATALOGUE_FILE, else the build's); one named "
+     "here must be readable and valid"},
     {"protocol", "N",
      "start on protocol N (default 28): the window and --screenshot with the catalogue's sample data, "
      "a scenario with nothing else (its protocol line wins)"},
+    {"zeroed", "",
+     "start with zeroed buffers: --protocol and the window without demo or sample data, and the Car panel's "
+     "Sample data off"},
     {"clock", "HH:MM", "the head unit's clock stands at this time (--demo and --gallery: 10:08 unless given)"},
     {"list-protocols", "", "print every protocol id with its family's first pages"},
     {"zoom", "PERCENT", "the window's screen at 50 to 100 per cent of its size (default: what fits the desktop)"},
@@ -199,6 +203,7 @@ bool parse(QStringList const &arguments, Values *values, QString *error)
     v.listProtocols = parser.isSet(QStringLiteral("list-protocols"));
     v.version = parser.isSet(QStringLiteral("version"));
     v.verbose = parser.isSet(QStringLiteral("verbose"));
+    v.zeroed = parser.isSet(QStringLiteral("zeroed"));
     v.help = parser.isSet(QStringLiteral("help"));
     v.manualPage = parser.isSet(QLatin1String(ManualPageOption));
     v.window = parser.isSet(QStringLiteral("window")) || parser.isSet(QStringLiteral("window-screenshot"));
@@ -344,7 +349,16 @@ QString manualPage()
         ".TP\n"
         ".B CARCONTROL_PLUGIN_DIR, CARCONTROL_RESOURCE_ROOT, CARCONTROL_CATALOGUE_FILE\n"
         "override where the plug-ins, the artwork and the catalogue are; by default\n"
-        "they lie beside the installed program.\n");
+        "they lie beside the installed program.\n"
+        ".SH FILES\n"
+        ".TP\n"
+        ".I /usr/share/doc/carcontrol-bench/scenarios.md\n"
+        "the scenario language: every command, its arguments and what it checks.\n"
+        ".TP\n"
+        ".I /usr/share/doc/carcontrol-bench/examples/\n"
+        "example scenarios, one or more for each family of pages; run one with\n"
+        ".B headunit-sim \\-\\-script\n"
+        ".IR FILE .\n");
     return page;
 }
 

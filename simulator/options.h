@@ -37,6 +37,7 @@ struct Values
     // The demo car's unless given.
     int protocol = 0;
     bool protocolGiven = false;
+    bool zeroed = false;
     QTime clock;
     int zoom = 0;
     bool listProtocols = false;

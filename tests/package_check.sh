@@ -67,6 +67,18 @@ bench)
         || fail "the package doesn't depend on libqt5serialport5"
     sim="$root/usr/bin/headunit-sim"
     [ -x "$sim" ] || fail "no usr/bin/headunit-sim in the package"
+    # The manual page tells every option and the exit status; the scenario
+    # reference and the examples it names come along; a CJK font is
+    # recommended for --language zh_CN.
+    man="$root/usr/share/man/man1/headunit-sim.1.gz"
+    for option in record frames version list-protocols clock zoom box-coverage; do
+        gzip -dc "$man" | grep -qF -- "\\-\\-$option" || fail "the manual page lacks --$option"
+    done
+    gzip -dc "$man" | grep -q '^.SH EXIT STATUS' || fail "the manual page lacks the exit status"
+    doc="$root/usr/share/doc/carcontrol-bench"
+    grep -q '^# Scenarios' "$doc/scenarios.md" || fail "no scenario reference in $doc"
+    [ -f "$doc/examples/protocol28_amplifier.scn" ] || fail "no example scenarios in $doc/examples"
+    dpkg-deb -f "$deb" Recommends | grep -q 'fonts-wqy-microhei\|fonts-noto-cjk' || fail "no CJK font recommended"
     # Nothing from the build tree: an empty environment, and the loader's
     # own list of the libraries it opened.
     env -i PATH=/usr/bin:/bin HOME="$work" QT_QPA_PLATFORM=offscreen LD_DEBUG=libs \

@@ -200,14 +200,18 @@ private slots:
         QTest::addColumn<int>("protocol");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("meaning");
-        QTest::newRow("2E, a step") << 28 << frame("2E A8 02 01 0A ck") << QString("28_2 \"Treble\" -> 10");
+        QTest::newRow("2E, a step") << 28 << frame("2E A8 02 01 0A ck") << QString("28_2 \"Treble\" -> 1 (raw 10)");
         QTest::newRow("2E, another row") << 28 << frame("2E A8 02 00 01 ck") << QString("28_2 \"volume\" -> 1");
         QTest::newRow("2E, family 124") << 124 << frame("2E C6 03 01 01 00 ck", 124)
-                                        << QString("124_2 \"Automatic locking mode\" -> 1");
+                                        << QString("124_2 \"Automatic locking mode\" -> Lock:exiting park,unlock:enter park (raw 1)");
         QTest::newRow("FD, two checksum bytes") << 67 << frame("FD 05 05 02 ck ck", 67)
                                                 << QString("67_4 \"Volume adjustment\" -> 2");
         QTest::newRow("FD, bytes that don't carry the value") << 87
-            << frame("FD 0B C5 01 12 34 56 78 9A BC DE ck", 87) << QString("87_1 \"front and rear balance\" -> 3");
+            << frame("FD 0B C5 01 12 34 56 78 9A BC DE ck", 87) << QString("87_1 \"front and rear balance\" -> -6 (raw 3)");
+        // What the row shows for the value, beside the raw value: a signed
+        // level, a choice's option.
+        QTest::newRow("2E, signed") << 30 << frame("2E 84 02 04 02 ck", 30) << QString("30_4 \"BASS indicator\" -> -5 (raw 0)");
+        QTest::newRow("2E, choice") << 30 << frame("2E 84 02 03 08 ck", 30) << QString("30_4 \"ASL indicator\" -> ASL ON (raw 1)");
         QTest::newRow("request") << 28 << frame("2E 90 02 51 00 ck") << QString("request");
         QByteArray bad = frame("2E A8 02 01 0A ck");
         bad[5] = char(bad.at(5) ^ 1);
@@ -246,6 +250,56 @@ private slots:
         box.setEnabled(true);
         QVERIFY(!box.isEnabled());
         QVERIFY(!box.isLoaded());
+    }
+
+    // A catalogue is checked whole when it is read: an offset, mask or
+    // value that doesn't fit the 8,192-byte buffer refuses it, naming the
+    // entry, and nothing of it stays loaded. Offsets near INT_MAX once
+    // overflowed the check and crashed the sample writer and the recorder.
+    void catalogueOutOfRangeIsRefused_data()
+    {
+        QTest::addColumn<QJsonObject>("row");
+        QTest::addColumn<QString>("reason");
+        const auto text = [](QJsonValue offset) {
+            return QJsonObject{{"title", "Name"}, {"source", QJsonObject{{"type", "text"}, {"offset", offset}}}};
+        };
+        const auto sample = [](QJsonArray write) {
+            return QJsonObject{{"title", "Bass"}, {"sample", QJsonObject{{"value", 1}, {"writes", QJsonArray{write}}}}};
+        };
+        QTest::newRow("text near INT_MAX") << text(2147483645)
+                                           << "row 1 \"Name\": text offset 2147483645 outside the buffer (0..8188)";
+        QTest::newRow("text past the end") << text(8190) << "text offset 8190 outside";
+        QTest::newRow("text beyond int") << text(1e12) << "text offset 1000000000000 outside";
+        QTest::newRow("text negative") << text(-4) << "text offset -4 outside";
+        QTest::newRow("text fraction") << text(60.5) << "text offset 60.5 outside";
+        QTest::newRow("text missing") << text(QJsonValue()) << "text offset null outside";
+        QTest::newRow("write past the end") << sample({8192, 255, 1}) << "sample: write [8192,255,1] is not";
+        QTest::newRow("write mask") << sample({10, 256, 1}) << "sample: write [10,256,1] is not";
+        QTest::newRow("write short") << sample({10, 255}) << "sample: write [10,255] is not";
+        QTest::newRow("step write") << QJsonObject{{"title", "Treble"}, {"adjustable", true},
+                                                   {"steps", QJsonArray{step(9, "2E A8 02 01 09 ck",
+                                                                             QJsonArray{QJsonArray{-1, 255, 9}})}}}
+                                    << "row 1 \"Treble\": step 1: write [-1,255,9] is not";
+    }
+
+    void catalogueOutOfRangeIsRefused()
+    {
+        QFETCH(QJsonObject, row);
+        QFETCH(QString, reason);
+        const QJsonObject catalogue{
+            {"families", QJsonArray{QJsonObject{{"family", 28}, {"ids", QJsonArray{28}},
+                                                {"pages", QJsonArray{QJsonObject{{"title", "Fine"}, {"rows", QJsonArray()}}}}},
+                                    QJsonObject{{"family", 30}, {"ids", QJsonArray{30}},
+                                                {"pages", QJsonArray{QJsonObject{{"index", 1}, {"rows", QJsonArray{row}}}}}}}}};
+        DecoderBox box;
+        QString error;
+        QVERIFY(!box.load(catalogue, &error));
+        QVERIFY2(error.startsWith("family 30: page 30_2, row 1 "), qPrintable(error));
+        QVERIFY2(error.contains(reason), qPrintable(error));
+        QVERIFY(!box.isLoaded());
+        QVERIFY(box.pageTitles(28).isEmpty());
+        QVERIFY(!box.writeSamples(30));
+        QVERIFY(box.textOffsets(30).isEmpty());
     }
 
     void samplesForTheDemoScreens()

@@ -60,6 +60,8 @@ private slots:
     void malformedLines_data();
     void malformedLines();
     void wholeScenario();
+    void onlyTextIsRead_data();
+    void onlyTextIsRead();
     void climateRecordByOffset();
     void listDialogAndDragCommands();
 };
@@ -407,12 +409,13 @@ void TestScenarioParser::malformedLines_data()
     QTest::newRow("host value") << "host rightDriver 2" << "value 2 is not one of";
     QTest::newRow("wallpaper") << "wallpaper maybe" << "wallpaper maybe is not one of on|off";
     QTest::newRow("notify extra") << "notify now" << "unexpected now";
-    QTest::newRow("key name") << "key escape" << "key escape is neither a code nor one of";
+    QTest::newRow("key name") << "key hyper" << "key hyper is neither a code nor one of";
     QTest::newRow("tap nothing") << "tap" << "tap what?";
     QTest::newRow("tap row zone") << "tap row 1 up" << "zone up is not one of left|right|middle";
     QTest::newRow("tap title text") << "tap title one" << "title one is not a number";
     QTest::newRow("tap bar") << "tap bar menu" << "button menu is not one of back|home";
-    QTest::newRow("tap two names") << "tap a b" << "unexpected b";
+    QTest::newRow("tap misspelt") << "tap tilte 1" << "tilte is not one of title|row|bar|button|entry|at";
+    QTest::newRow("tap two names") << "tap a b" << "a is not one of title";
     QTest::newRow("wait negative") << "wait -1" << "milliseconds -1 outside";
     QTest::newRow("longpress button time") << "longpress button \"OK\" soon" << "milliseconds soon is not a number";
     QTest::newRow("setting without value") << "expect setting SteeringWheelButtonType" << "value missing";
@@ -486,6 +489,44 @@ void TestScenarioParser::wholeScenario()
     QString reason;
     QVERIFY(tokenize(quoted(text), &tokens, &reason));
     QCOMPARE(tokens.value(0).text, text);
+}
+
+// A scenario or a frame log is text: a NUL, a control byte or invalid
+// UTF-8 stops the reading at its line instead of ending the scenario there
+// unseen; a scenario of no commands checks nothing and is refused; a
+// message quotes no more than 120 characters of a line, control bytes
+// escaped.
+void TestScenarioParser::onlyTextIsRead_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("NUL ends no scenario") << QByteArray("protocol 28\nbuf 0 1") + '\0' + "\nexpect row 0 \"x\"\n"
+                                          << "s.scn:2: not text: a NUL byte";
+    QTest::newRow("all zeros") << QByteArray(4096, '\0') << "s.scn:1: not text: a NUL byte";
+    QTest::newRow("invalid UTF-8") << QByteArray("protocol 28\n# caf\xe9\n") << "s.scn:2: not text: invalid UTF-8";
+    QTest::newRow("truncated UTF-8") << QByteArray("protocol 28 \xe2\x84") << "s.scn:1: not text: invalid UTF-8";
+    QTest::newRow("escape byte") << QByteArray("protocol 28\n\n\x1b[2J\n") << "s.scn:3: not text: the control byte 0x1b";
+    QTest::newRow("empty") << QByteArray() << "s.scn: no commands";
+    QTest::newRow("comments only") << QByteArray("# nothing\n\n   \n") << "s.scn: no commands";
+    QTest::newRow("long line quoted short")
+            << QByteArray("protocol 28\n") + QByteArray(100000, 'x')
+            << "s.scn:2: malformed line \"" + QString(120, 'x') + "...\": unknown command " + QString(104, 'x') + "...";
+    QTest::newRow("tab escaped in quote") << QByteArray("protocol\t28\tnow")
+                                          << "s.scn:1: malformed line \"protocol\\x0928\\x09now\": unexpected now at the end";
+}
+
+void TestScenarioParser::onlyTextIsRead()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, error);
+    QString text, got;
+    Script script;
+    const bool read = decode("s.scn", bytes, &text, &got) && parse("s.scn", text, &script, &got);
+    QVERIFY2(!read, "accepted");
+    QCOMPARE(got, error);
+    // Text with tabs and non-ASCII letters passes.
+    QVERIFY2(decode("s.scn", "protocol\t28 # caf\xc3\xa9\n", &text, &got), qPrintable(got));
+    QCOMPARE(text, QString::fromUtf8("protocol\t28 # caf\xc3\xa9\n"));
 }
 
 // The air commands name the fields by their offsets in the head unit's

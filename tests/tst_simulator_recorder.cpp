@@ -15,6 +15,7 @@
 #include "simulatorhost.h"
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -68,6 +69,42 @@ QString readAll(QString const &file)
     return input.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(input.readAll()) : QString();
 }
 
+// The window on the demo car, the box on, recording into file.
+void startRecording(MainWindow &window, SimulatorHost &host, QString const &file)
+{
+    window.startDemoCar(28);
+    host.box().setEnabled(true);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    EventPump::settle();
+    auto *logs = window.findChild<LogPanel *>();
+    QVERIFY(logs);
+    QString error;
+    QVERIFY2(logs->startRecording(file, &error), qPrintable(error));
+}
+
+// A protocol picked from the open list of the Car panel's picker.
+void pickProtocol(QWidget *window, int id)
+{
+    auto *picker = window->findChild<QComboBox *>("protocolPicker");
+    picker->showPopup();
+    QAbstractItemView *choices = picker->view();
+    const QModelIndex choice = choices->model()->index(picker->findData(id), 0);
+    choices->scrollTo(choice);
+    QTest::mouseClick(choices->viewport(), Qt::LeftButton, Qt::NoModifier, choices->visualRect(choice).center());
+    EventPump::settle();
+    QCOMPARE(CanObj::id(), id);
+}
+
+// The recording replays to its end in a simulator of its own.
+void replays(QString const &file)
+{
+    QProcess simulator;
+    simulator.start(SIMULATOR_BINARY, {"--platform", "offscreen", "--script", file});
+    QVERIFY(simulator.waitForFinished(60000));
+    QVERIFY2(simulator.exitCode() == 0, qPrintable(simulator.readAllStandardError() + "\n" + readAll(file)));
+}
+
 } // namespace
 
 class TestSimulatorRecorder : public QObject
@@ -81,6 +118,7 @@ private slots:
     void malformedLogLines();
     void replayMakesThePagesFollow();
     void recordClicksInTheWindowAndReplay();
+    void recordedProtocolChangeReplays();
 
 private:
     QTemporaryDir m_dir;
@@ -174,6 +212,18 @@ void TestSimulatorRecorder::malformedLogLines_data()
     QTest::newRow("byte") << "1.000 TX 2E 9G" << "9G is not a byte in hex";
     QTest::newRow("three digits") << "1.000 TX 2E 123" << "123 is not a byte in hex";
     QTest::newRow("answer without place") << "1.000 RX 0A" << "0A is neither PROTOCOL:OFFSET nor a byte in hex after one";
+    // A byte is two hex digits, nothing that a number reader would take.
+    QTest::newRow("minus") << "1.000 TX 2E -1" << "-1 is not a byte in hex";
+    QTest::newRow("plus") << "1.000 TX 2E +C" << "+C is not a byte in hex";
+    QTest::newRow("prefix") << "1.000 TX 0x2E" << "0x2E is not a byte in hex";
+    QTest::newRow("signed place") << "1.000 RX +28:-1 0A" << "+28:-1 is neither PROTOCOL:OFFSET nor a byte in hex after one";
+    // Seconds since the start: finite, not negative, as the log writes them.
+    QTest::newRow("infinite") << "inf TX 2E" << "time inf is not a number of seconds";
+    QTest::newRow("not a number") << "nan TX 2E" << "time nan is not a number of seconds";
+    QTest::newRow("huge") << "1e300 TX 2E" << "time 1e300 is not a number of seconds";
+    QTest::newRow("negative") << "-0.5 TX 2E" << "time -0.5 is not a number of seconds";
+    QTest::newRow("bare TX") << "1.0 TX" << "a TX line without the frame's bytes";
+    QTest::newRow("long word") << "1.000 TX " + QString(300, 'A') << QString(120, 'A') + "... is not a byte in hex";
 }
 
 void TestSimulatorRecorder::malformedLogLines()
@@ -244,15 +294,9 @@ void TestSimulatorRecorder::recordClicksInTheWindowAndReplay()
     QString error;
     QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
     MainWindow window(host);
-    window.startDemoCar(28);
-    host.box().setEnabled(true);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    EventPump::settle();
-    auto *logs = window.findChild<LogPanel *>();
-    QVERIFY(logs);
     const QString file = m_dir.filePath("clicks.scn");
-    QVERIFY2(logs->startRecording(file, &error), qPrintable(error));
+    startRecording(window, host, file);
+    auto *logs = window.findChild<LogPanel *>();
     QVERIFY(window.findChild<QPushButton *>("recordButton")->isChecked());
     ScreenProbe const &probe = host.probe();
 
@@ -272,6 +316,9 @@ void TestSimulatorRecorder::recordClicksInTheWindowAndReplay()
     // The unit's key under the screen, as a person presses it; home, which
     // closes the extended view.
     click(withText<QPushButton>(&window, QStringLiteral("\u25BC")), QPoint(5, 5));
+    // The desktop keyboard's arrow, by its name.
+    QTest::keyClick(probe.focusTarget(), Qt::Key_Down);
+    EventPump::settle();
     QWidget *home = probe.baseBar()->findChild<QWidget *>("home");
     QVERIFY(home);
     click(home, home->rect().center());
@@ -289,20 +336,15 @@ void TestSimulatorRecorder::recordClicksInTheWindowAndReplay()
 
     // Family 87's car from the command line; the protocol picked from the
     // picker's list; then its amplifier page and a row's arrow.
+    // Sample data off: the bytes set by hand stay when 87 is first picked.
+    click(window.findChild<QCheckBox *>("sampleData"), QPoint(5, 5));
     auto *line = window.findChild<QLineEdit *>("commandLine");
     for (char const *command : {"buf @87 70 1", "buf @87 0 9 11 2 16 9 1 0 3 3 6 0"}) {
         line->clear();
         QTest::keyClicks(line, command);
         QTest::keyClick(line, Qt::Key_Return);
     }
-    auto *picker = window.findChild<QComboBox *>("protocolPicker");
-    picker->showPopup();
-    QAbstractItemView *choices = picker->view();
-    const QModelIndex choice = choices->model()->index(picker->findData(87), 0);
-    choices->scrollTo(choice);
-    QTest::mouseClick(choices->viewport(), Qt::LeftButton, Qt::NoModifier, choices->visualRect(choice).center());
-    EventPump::settle();
-    QCOMPARE(CanObj::id(), 87);
+    pickProtocol(&window, 87);
     click(withText<QPushButton>(&window, "Extended view"), QPoint(5, 5));
     titles = probe.titleList();
     const QModelIndexList amplifier = titles->model()->match(titles->model()->index(0, 0), Qt::DisplayRole,
@@ -375,7 +417,7 @@ void TestSimulatorRecorder::recordClicksInTheWindowAndReplay()
             + "\nexpect page \"Amplifier status\"\nexpect row 1 \"2\"\n";
     const QStringList lines = {"protocol 28\n", "text ", "call setProtocolId 28\n", "box on\n", "call showExView\n",
                              "tap title 1\n", treble, amplifierPage, balance,
-                             "key down\n", QString("tap bar home\n"), "air.type 3\ncall onAirConditionerDataChanged\n",
+                             "key down\n", "key arrow-down\n", QString("tap bar home\n"), "air.type 3\ncall onAirConditionerDataChanged\n",
                              "buf @87 70 1\nbuf @87 0 9 11 2 16 9 1 0 3 3 6 0\n", "protocol 87\n", "call setProtocolId 87\n",
                              "# not recorded: a press of another mouse button at "};
     for (QString const &line : lines) {
@@ -385,14 +427,49 @@ void TestSimulatorRecorder::recordClicksInTheWindowAndReplay()
     QVERIFY2(recording.contains(QRegularExpression("expect row 1 \"2\"\nwait \\d+\nexpect page \"Amplifier status\"\n"
                                                    "expect row 1 \"3\"\n")), qPrintable(recording));
 
-    // The recording replays to its end in a simulator of its own.
-    QProcess simulator;
-    simulator.start(SIMULATOR_BINARY, {"--platform", "offscreen", "--script", file});
-    QVERIFY(simulator.waitForFinished(60000));
-    QVERIFY2(simulator.exitCode() == 0, simulator.readAllStandardError().constData());
+    replays(file);
+    HostSim::reset();
+}
+
+
+
+// A protocol picked in the panel while the extended view is open: the panel
+// leaves the view and opens it again on the new protocol's pages. The
+// recording says so, and its replay opens the same pages and sends the same
+// frames.
+void TestSimulatorRecorder::recordedProtocolChangeReplays()
+{
+    SimulatorHost host;
+    QString error;
+    QVERIFY2(SimTest::loadHost(host, &error), qPrintable(error));
+    MainWindow window(host);
+    const QString file = m_dir.filePath("protocols.scn");
+    startRecording(window, host, file);
+    ScreenProbe const &probe = host.probe();
+
+    click(withText<QPushButton>(&window, "Extended view"), QPoint(5, 5));
+    QAbstractItemView *titles = probe.titleList();
+    QVERIFY(titles);
+    click(titles->viewport(), titles->visualRect(titles->model()->index(1, 0)).center());
+    QTest::qWait(200);
+    click(withText<QPushButton>(&window, "Back"), QPoint(5, 5));
+    QTest::qWait(100);
+
+    pickProtocol(&window, 30);
+    titles = probe.titleList();
+    QVERIFY(ScreenProbe::isShown(titles));
+    click(titles->viewport(), titles->visualRect(titles->model()->index(2, 0)).center());
+    QTest::qWait(250);
+    window.findChild<LogPanel *>()->stopRecording();
+    window.close();
+
+    const QString recording = readAll(file);
+    QVERIFY2(recording.contains(QRegularExpression("tap bar home\n(.*\n)*protocol 30\n(.*\n)*call setProtocolId 30\n"
+                                                   "(.*\n)*call showExView\n(.*\n)*tap title 2\n")),
+             qPrintable(recording));
+    replays(file);
     HostSim::reset();
 }
 
 QTEST_MAIN(TestSimulatorRecorder)
-
 #include "tst_simulator_recorder.moc"

@@ -5,6 +5,7 @@
 
 #include "canobj.h"
 #include "catalogue.h"
+#include "demo.h"
 #include "eventpump.h"
 #include "hostsim.h"
 #include "mainwindow.h"
@@ -19,6 +20,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGraphicsView>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -27,6 +29,8 @@
 #include <QTableView>
 #include <QTreeWidget>
 #include <QtTest>
+
+#include <cstring>
 
 namespace {
 
@@ -58,6 +62,7 @@ private slots:
     void carPanels();
     void bufferEditorAndFrameLog();
     void protocolChangeReopensViews();
+    void pickedProtocolGetsSampleData();
     void languagePicker();
     void linksARealBox();
     // Last: it takes the screen into a window of its own.
@@ -186,6 +191,10 @@ void TestSimulatorWindow::carPanels()
     auto *commands = m_window->findChild<QTreeWidget *>("climateCommandLog");
     QTRY_COMPARE(commands->topLevelItemCount(), 1);
     QCOMPARE(lastRow(commands).mid(1), (QStringList{"AirAC", "off"}));
+    // Its time counts seconds from the start, as the frame log's does.
+    const QString time = lastRow(commands).value(0);
+    QVERIFY2(QRegularExpression("^\\d+\\.\\d{3}$").match(time).hasMatch(), qPrintable(time));
+    QVERIFY(qAbs(time.toDouble() * 1000 - m_host->elapsed()) < 5000);
     click(withText<QPushButton>(m_window, "Hide"));
     QVERIFY(!shown("air"));
 
@@ -272,7 +281,7 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
     QCOMPARE(frames->topLevelItemCount(), before + 1);
     const QStringList row = lastRow(frames);
     // With the catalogue, what the frame means: the page, the row, the value.
-    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "28_2 \"Treble\" -> 13"}));
+    QCOMPARE(row.mid(1), (QStringList{"TX", "2E A8 02 01 0D 47", "2E", "A8", "28_2 \"Treble\" -> 4 (raw 13)"}));
     QVERIFY(row.at(0).contains('.'));
 
     // The command line runs any scenario command.
@@ -405,6 +414,65 @@ void TestSimulatorWindow::protocolChangeReopensViews()
     QVERIFY(!m_host->probe().findObject("exView"));
 }
 
+// A protocol picked in the Car panel gets the catalogue's sample data, byte
+// for byte what --protocol gives; with Sample data off, its buffer stays
+// zeroed.
+void TestSimulatorWindow::pickedProtocolGetsSampleData()
+{
+    auto *picker = m_window->findChild<QComboBox *>("protocolPicker");
+    auto *samples = m_window->findChild<QCheckBox *>("sampleData");
+    QVERIFY(samples && samples->isChecked());
+    // The bytes, with each text field as its text and the byte list at 220
+    // (the tyre panel's) as its bytes: their handles differ from one writing
+    // to the next.
+    const auto bytes = [this] {
+        DataBuffer const buffer = HostSim::buffer(30);
+        QByteArray content(reinterpret_cast<char const *>(buffer.data()), HostSim::bufferSize());
+        for (int offset : m_host->box().textOffsets(30))
+            content.replace(offset, 4, "TEXT").append(buffer.text(offset).toUtf8());
+        return content.replace(220, 4, "LIST").append(buffer.bytes(220));
+    };
+    const auto zero = [] { std::memset(HostSim::buffer(30).data(), 0, size_t(HostSim::bufferSize())); };
+    const QByteArray zeroed = [&] {
+        zero();
+        return bytes();
+    }();
+    QCOMPARE(picker->currentData().toInt(), 28);
+    zero();
+    QTest::keyClick(picker, Qt::Key_Down);
+    QTest::keyClick(picker, Qt::Key_Down);
+    EventPump::settle();
+    QCOMPARE(CanObj::id(), 30);
+    const QByteArray picked = bytes();
+    QVERIFY(picked != zeroed);
+    // --protocol 30 starts the car from another protocol in the same way.
+    Demo::selectProtocol(*m_host, 0);
+    zero();
+    QCOMPARE(Demo::startCar(*m_host, 30).status, Scenario::Passed);
+    QCOMPARE(bytes(), picked);
+
+    // Picked again, it keeps what was set on it since.
+    HostSim::buffer(30).setByte(163, 4);
+    QTest::keyClick(picker, Qt::Key_Up);
+    QTest::keyClick(picker, Qt::Key_Down);
+    EventPump::settle();
+    QCOMPARE(HostSim::buffer(30).byte(163), quint8(4));
+
+    // Off, a protocol picked for the first time stays zeroed.
+    click(samples, QPoint(5, 5));
+    QVERIFY(!samples->isChecked());
+    std::memset(HostSim::buffer(31).data(), 0, size_t(HostSim::bufferSize()));
+    QTest::keyClick(picker, Qt::Key_Down);
+    EventPump::settle();
+    QCOMPARE(CanObj::id(), 31);
+    QCOMPARE(QByteArray(reinterpret_cast<char const *>(HostSim::buffer(31).data()), HostSim::bufferSize()),
+             QByteArray(HostSim::bufferSize(), '\0'));
+    click(samples, QPoint(5, 5));
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(picker, Qt::Key_Up);
+    m_window->startDemoCar(28);
+}
+
 void TestSimulatorWindow::zoomedWindowFitsALaptop()
 {
     // On a 1366 x 768 desktop the screen is drawn smaller, so that the whole
@@ -417,11 +485,46 @@ void TestSimulatorWindow::zoomedWindowFitsALaptop()
     m_window->startDemoCar(28);
 
     MainWindow zoomed(*m_host, zoom);
+    // The desktop's free area under a 30-pixel panel.
+    zoomed.fitDesktop(QSize(1366, 768 - 30));
     zoomed.show();
     QVERIFY(QTest::qWaitForWindowExposed(&zoomed));
     EventPump::settle();
-    QVERIFY2(zoomed.width() <= 1366 && zoomed.height() <= 768 - 30,
-             qPrintable(QString("%1 x %2").arg(zoomed.width()).arg(zoomed.height())));
+    QVERIFY2(zoomed.width() <= 1366 && zoomed.height() <= 768 - 30 - 30 && zoomed.height() >= 650,
+             qPrintable(QString("%1 x %2, at least %3 x %4").arg(zoomed.width()).arg(zoomed.height())
+                            .arg(zoomed.minimumSizeHint().width()).arg(zoomed.minimumSizeHint().height())));
+    // Every panel usable: the Car tab's Extended view button in sight
+    // without scrolling, the frame log at least eight rows high, its bytes
+    // whole, and every column of both logs as wide as its texts or widened
+    // by a drag of its edge.
+    QPushButton *extended = withText<QPushButton>(&zoomed, "Extended view");
+    QWidget *carViewport = extended->parentWidget();
+    while (carViewport && carViewport->objectName() != "qt_scrollarea_viewport")
+        carViewport = carViewport->parentWidget();
+    QVERIFY(carViewport);
+    const QRect inViewport(extended->mapTo(carViewport, QPoint()), extended->size());
+    QVERIFY2(carViewport->rect().contains(inViewport),
+             qPrintable(QString("button at %1, viewport %2 high").arg(inViewport.bottom()).arg(carViewport->height())));
+    click(extended);
+    QString missing;
+    QVERIFY2(m_host->input().tapTitle(1, &missing), qPrintable(missing));
+    QTest::qWait(200);
+    auto *frames = zoomed.findChild<QTreeWidget *>("frameLog");
+    QVERIFY(frames->topLevelItemCount() > 0);
+    const int rowHeight = frames->visualItemRect(frames->topLevelItem(0)).height();
+    QVERIFY2(frames->viewport()->height() >= 8 * rowHeight,
+             qPrintable(QString("%1 px for rows of %2").arg(frames->viewport()->height()).arg(rowHeight)));
+    for (int i = 0; i < frames->topLevelItemCount(); ++i)
+        QVERIFY(frames->columnWidth(2) > frames->fontMetrics().horizontalAdvance(frames->topLevelItem(i)->text(2)));
+    auto *commands = zoomed.findChild<QTreeWidget *>("climateCommandLog");
+    for (QTreeWidget *log : {frames, commands}) {
+        for (int column = 0; column < log->columnCount(); ++column)
+            QCOMPARE(log->header()->sectionResizeMode(column), QHeaderView::Interactive);
+    }
+    QVERIFY(commands->columnWidth(1) >= commands->fontMetrics().horizontalAdvance("AirConditionerTemperature"));
+    HostSim::pressBarButton(HostSim::lastBaseBar(), "home");
+    HostSim::pressBarButton(HostSim::lastBaseBar(), "home");
+    EventPump::settle();
     QTRY_VERIFY(zoomed.windowTitle().endsWith(QString("(screen at %1%)").arg(zoom)));
     auto *view = zoomed.findChild<QGraphicsView *>("zoomedScreen");
     QVERIFY(view);

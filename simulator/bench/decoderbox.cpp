@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <cmath>
+
 namespace {
 
 // A request for a data group: 2E 90 ..., FD N 90 ..., FD N 8F ..., and the
@@ -114,79 +116,147 @@ bool DecoderBox::load(QJsonObject const &catalogue, QString *error)
     m_families.clear();
     m_familyOfId.clear();
     m_adjustable = m_answered = 0;
+    QString reason;
     const QJsonArray families = catalogue.value(QLatin1String("families")).toArray();
-    if (families.isEmpty()) {
-        if (error)
-            *error = QStringLiteral("no page families in the catalogue");
-        setEnabled(false);
-        return false;
+    if (families.isEmpty())
+        reason = QStringLiteral("no page families in the catalogue");
+    for (int i = 0; reason.isEmpty() && i < families.size(); ++i) {
+        if (!readFamily(families.at(i).toObject(), &reason))
+            reason = QStringLiteral("family %1: %2").arg(families.at(i).toObject().value(QLatin1String("family")).toInt())
+                         .arg(reason);
     }
-    for (QJsonValue const &f : families) {
-        const QJsonObject familyJson = f.toObject();
-        const int familyNumber = familyJson.value(QLatin1String("family")).toInt();
-        Family family;
-        for (QJsonValue const &id : familyJson.value(QLatin1String("ids")).toArray()) {
-            family.ids.append(id.toInt());
-            m_familyOfId.insert(id.toInt(), m_families.size());
+    if (reason.isEmpty())
+        return true;
+    // Nothing of a refused catalogue stays: no offset of it is ever read.
+    m_families.clear();
+    m_familyOfId.clear();
+    m_adjustable = m_answered = 0;
+    if (error)
+        *error = reason;
+    setEnabled(false);
+    return false;
+}
+
+namespace {
+
+// An integer of the catalogue within min..max, compared as a double, so
+// that no value wraps on its way in.
+bool integerIn(QJsonValue const &value, qint64 min, qint64 max, int *out)
+{
+    const double number = value.toDouble(std::nan(""));
+    if (!value.isDouble() || !std::isfinite(number) || number != std::floor(number) || number < double(min)
+            || number > double(max))
+        return false;
+    *out = int(number);
+    return true;
+}
+
+QString jsonText(QJsonValue const &value)
+{
+    if (value.isDouble())
+        return QString::number(value.toDouble(), 'g', 17);
+    if (value.isUndefined())
+        return QStringLiteral("(none)");
+    return QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact)).mid(1).chopped(1);
+}
+
+} // namespace
+
+bool DecoderBox::readWrites(QJsonArray const &array, QList<Write> *writes, QString *error)
+{
+    for (QJsonValue const &w : array) {
+        const QJsonArray write = w.toArray();
+        int offset, mask, value;
+        if (write.size() != 3 || !integerIn(write.at(0), 0, HostSim::bufferSize() - 1, &offset)
+                || !integerIn(write.at(1), 0, 0xFF, &mask) || !integerIn(write.at(2), 0, 0xFF, &value)) {
+            *error = QStringLiteral("write %1 is not [OFFSET, MASK, VALUE] with an offset 0..%2 and bytes 0..255")
+                         .arg(jsonText(w)).arg(HostSim::bufferSize() - 1);
+            return false;
         }
-        for (QJsonValue const &p : familyJson.value(QLatin1String("pages")).toArray()) {
-            const QJsonObject page = p.toObject();
-            const int bufferId = page.value(QLatin1String("buffer")).toInt();
-            family.titles.append(page.value(QLatin1String("title")).toString());
-            family.rows += page.value(QLatin1String("rows")).toArray().size();
-            family.emptyPages.append(page.value(QLatin1String("rows")).toArray().isEmpty()
-                                     && !page.value(QLatin1String("ownWidgets")).toBool());
-            // Pages count from 1, as the gallery names them.
-            const QString pageName = QStringLiteral("%1_%2").arg(familyNumber)
-                                         .arg(page.value(QLatin1String("index")).toInt() + 1);
-            for (QJsonValue const &r : page.value(QLatin1String("rows")).toArray()) {
-                const QJsonObject row = r.toObject();
-                auto writesOf = [](QJsonArray const &array) {
-                    QList<Write> writes;
-                    for (QJsonValue const &w : array) {
-                        const QJsonArray write = w.toArray();
-                        const int offset = write.at(0).toInt(-1);
-                        if (write.size() == 3 && offset >= 0 && offset < HostSim::bufferSize())
-                            writes.append(Write{offset, quint8(write.at(1).toInt()), quint8(write.at(2).toInt())});
-                    }
-                    return writes;
-                };
-                const QJsonObject sample = row.value(QLatin1String("sample")).toObject();
-                const QJsonObject source = row.value(QLatin1String("source")).toObject();
-                const bool text = source.value(QLatin1String("type")).toString() == QLatin1String("text");
-                const int textOffset = source.value(QLatin1String("offset")).toInt();
-                if (!sample.isEmpty())
-                    family.samples.append(Sample{bufferId, writesOf(sample.value(QLatin1String("writes")).toArray()), -1, QString()});
-                else if (text)
-                    family.samples.append(Sample{bufferId, {}, textOffset, sampleText(row.value(QLatin1String("title")).toString())});
-                if (text && !bufferId && !family.textOffsets.contains(textOffset))
-                    family.textOffsets.append(textOffset);
-                if (!row.value(QLatin1String("adjustable")).toBool())
+        writes->append(Write{offset, quint8(mask), quint8(value)});
+    }
+    return true;
+}
+
+bool DecoderBox::readFamily(QJsonObject const &familyJson, QString *error)
+{
+    const int familyNumber = familyJson.value(QLatin1String("family")).toInt();
+    Family family;
+    for (QJsonValue const &id : familyJson.value(QLatin1String("ids")).toArray()) {
+        family.ids.append(id.toInt());
+        m_familyOfId.insert(id.toInt(), m_families.size());
+    }
+    const QJsonArray pages = familyJson.value(QLatin1String("pages")).toArray();
+    for (int p = 0; p < pages.size(); ++p) {
+        const QJsonObject page = pages.at(p).toObject();
+        // Pages count from 1, as the gallery names them.
+        const QString pageName = QStringLiteral("%1_%2").arg(familyNumber)
+                                     .arg(page.value(QLatin1String("index")).toInt() + 1);
+        int bufferId = 0;
+        if (page.contains(QLatin1String("buffer"))
+                && !integerIn(page.value(QLatin1String("buffer")), 0, 65535, &bufferId)) {
+            *error = QStringLiteral("page %1: buffer %2 is not a protocol id 0..65535")
+                         .arg(pageName, jsonText(page.value(QLatin1String("buffer"))));
+            return false;
+        }
+        const QJsonArray rows = page.value(QLatin1String("rows")).toArray();
+        family.titles.append(page.value(QLatin1String("title")).toString());
+        family.rows += rows.size();
+        family.emptyPages.append(rows.isEmpty() && !page.value(QLatin1String("ownWidgets")).toBool());
+        for (int r = 0; r < rows.size(); ++r) {
+            const QJsonObject row = rows.at(r).toObject();
+            const QString title = row.value(QLatin1String("title")).toString();
+            QString reason;
+            const auto refuse = [&](QString const &why) {
+                *error = QStringLiteral("page %1, row %2 %3: %4").arg(pageName).arg(r + 1).arg(Scenario::quoted(title), why);
+                return false;
+            };
+            const QJsonObject sample = row.value(QLatin1String("sample")).toObject();
+            const QJsonObject source = row.value(QLatin1String("source")).toObject();
+            const bool text = source.value(QLatin1String("type")).toString() == QLatin1String("text");
+            // A text field is a 4-byte handle.
+            int textOffset = -1;
+            if (text && !integerIn(source.value(QLatin1String("offset")), 0, HostSim::bufferSize() - 4, &textOffset))
+                return refuse(QStringLiteral("text offset %1 outside the buffer (0..%2)")
+                                  .arg(jsonText(source.value(QLatin1String("offset")))).arg(HostSim::bufferSize() - 4));
+            if (!sample.isEmpty()) {
+                QList<Write> writes;
+                if (!readWrites(sample.value(QLatin1String("writes")).toArray(), &writes, &reason))
+                    return refuse(QStringLiteral("sample: ") + reason);
+                family.samples.append(Sample{bufferId, writes, -1, QString()});
+            } else if (text) {
+                family.samples.append(Sample{bufferId, {}, textOffset, sampleText(title)});
+            }
+            if (text && !bufferId && !family.textOffsets.contains(textOffset))
+                family.textOffsets.append(textOffset);
+            if (!row.value(QLatin1String("adjustable")).toBool())
+                continue;
+            ++m_adjustable;
+            if (row.value(QLatin1String("answered")).toBool())
+                ++m_answered;
+            const QJsonArray steps = row.value(QLatin1String("steps")).toArray();
+            for (int s = 0; s < steps.size(); ++s) {
+                const QJsonObject step = steps.at(s).toObject();
+                Answer answer;
+                answer.bufferId = bufferId;
+                answer.page = pageName;
+                answer.title = title;
+                answer.value = step.value(QLatin1String("value")).toInt();
+                answer.shows = step.value(QLatin1String("shows")).toBool();
+                answer.shown = step.value(QLatin1String("text")).toString();
+                if (!parseFrame(step.value(QLatin1String("frame")).toString(), &answer.bytes, &answer.care))
                     continue;
-                ++m_adjustable;
-                if (row.value(QLatin1String("answered")).toBool())
-                    ++m_answered;
-                for (QJsonValue const &s : row.value(QLatin1String("steps")).toArray()) {
-                    const QJsonObject step = s.toObject();
-                    Answer answer;
-                    answer.bufferId = bufferId;
-                    answer.page = pageName;
-                    answer.title = row.value(QLatin1String("title")).toString();
-                    answer.value = step.value(QLatin1String("value")).toInt();
-                    answer.shows = step.value(QLatin1String("shows")).toBool();
-                    if (!parseFrame(step.value(QLatin1String("frame")).toString(), &answer.bytes, &answer.care))
-                        continue;
-                    const QByteArray care = QByteArray::fromHex(step.value(QLatin1String("care")).toString().toLatin1());
-                    if (care.size() == answer.care.size())
-                        answer.care = care;
-                    answer.writes = writesOf(step.value(QLatin1String("writes")).toArray());
-                    family.byPrefix[answer.bytes.left(3)].append(family.answers.size());
-                    family.answers.append(answer);
-                }
+                const QByteArray care = QByteArray::fromHex(step.value(QLatin1String("care")).toString().toLatin1());
+                if (care.size() == answer.care.size())
+                    answer.care = care;
+                if (!readWrites(step.value(QLatin1String("writes")).toArray(), &answer.writes, &reason))
+                    return refuse(QStringLiteral("step %1: %2").arg(s + 1).arg(reason));
+                family.byPrefix[answer.bytes.left(3)].append(family.answers.size());
+                family.answers.append(answer);
             }
         }
-        m_families.append(family);
     }
+    m_families.append(family);
     return true;
 }
 
@@ -237,7 +307,8 @@ bool DecoderBox::writeSamples(int protocolId) const
         DataBuffer buffer = HostSim::buffer(sample.bufferId ? sample.bufferId : protocolId);
         for (Write const &w : sample.writes)
             buffer.setByte(w.offset, quint8((buffer.byte(w.offset) & ~w.mask) | (w.value & w.mask)));
-        if (sample.textOffset >= 0 && sample.textOffset + 4 <= HostSim::bufferSize())
+        // The catalogue's offsets were checked when it was read.
+        if (sample.textOffset >= 0)
             buffer.setText(sample.textOffset, sample.text);
     }
     return true;
@@ -330,8 +401,14 @@ QString DecoderBox::describe(QByteArray const &frame, int protocolId) const
     bool shows = false;
     for (Answer const &answer : qAsConst(found))
         shows = shows || answer.shows;
-    return QStringLiteral("%1 %2 -> %3%4").arg(first.page, Scenario::quoted(first.title)).arg(first.value)
-            .arg(shows ? QString() : QStringLiteral(", no answer"));
+    // What the row shows once the car reports the value, with the raw value
+    // beside it where the two differ; a catalogue without the row's text
+    // gives the raw value.
+    const QString raw = QString::number(first.value);
+    const QString value = first.shown.isEmpty() || first.shown == raw
+            ? raw : QStringLiteral("%1 (raw %2)").arg(first.shown, raw);
+    return QStringLiteral("%1 %2 -> %3%4").arg(first.page, Scenario::quoted(first.title), value,
+                                              shows ? QString() : QStringLiteral(", no answer"));
 }
 
 QList<int> DecoderBox::textOffsets(int protocolId) const

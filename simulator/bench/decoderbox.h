@@ -12,6 +12,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QList>
 #include <QObject>
@@ -36,7 +37,9 @@ public:
     explicit DecoderBox(QObject *parent = nullptr);
 
     // Reads an exported catalogue. False, with the reason in *error, for a
-    // missing or malformed file; the box then knows no frames and stays off.
+    // missing or malformed file, or an entry whose offset, mask or value
+    // doesn't fit the buffer (named by family, page and row); the box then
+    // knows no frames and stays off.
     bool load(QString const &file, QString *error);
     bool load(QJsonObject const &catalogue, QString *error);
     bool isLoaded() const;
@@ -76,7 +79,8 @@ public:
     // catalogue doesn't know.
     QString familyName(int protocolId) const;
     // What a frame means to the box under the protocol: the page, the row's
-    // title and the value that the frame sets (28_2 "Treble" -> 8), a
+    // title and the value that the frame sets, as the row shows it and raw
+    // (28_2 "Treble" -> -1 (raw 8)), a
     // request, or "unknown frame" with the reason the box refuses it. Where
     // the catalogue knows the frame but the box doesn't answer it, ", no
     // answer" follows. Works with the box off too.
@@ -127,6 +131,9 @@ private:
         QString page;
         QString title;
         int value;
+        // What the row shows for the value ("3", "ASL ON"); empty where the
+        // catalogue doesn't say.
+        QString shown;
         // The box answers the frame (the page shows what it writes).
         bool shows;
     };
@@ -144,6 +151,10 @@ private:
         QList<int> textOffsets;
     };
 
+    // One family of the catalogue into m_families; false, with the entry
+    // and the reason in *error, for a value out of range.
+    bool readFamily(QJsonObject const &family, QString *error);
+    static bool readWrites(QJsonArray const &array, QList<Write> *writes, QString *error);
     // The steps of the family whose frame is bytes, answered or not.
     QList<Answer> matches(Family const &family, QByteArray const &bytes) const;
     // Why the box refuses the frame under the protocol, or empty; *found

@@ -5,6 +5,7 @@
 #include "simulatorhost.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStringList>
 
@@ -17,27 +18,39 @@ QString seconds(qint64 ms)
     return QStringLiteral("%1.%2").arg(ms / 1000, 9).arg(ms % 1000, 3, 10, QLatin1Char('0'));
 }
 
+// Exactly two hex digits: no sign, no prefix.
 bool hexByte(QString const &token, char *byte)
 {
-    if (token.size() != 2)
+    const auto digit = [](QChar c) { return c.isDigit() || (c.toLower() >= QLatin1Char('a') && c.toLower() <= QLatin1Char('f')); };
+    if (token.size() != 2 || !digit(token.at(0)) || !digit(token.at(1)))
         return false;
-    bool ok = false;
-    const int value = token.toInt(&ok, 16);
-    if (ok)
-        *byte = char(value);
-    return ok;
+    *byte = char(token.toInt(nullptr, 16));
+    return true;
+}
+
+// Seconds as the log writes them: digits, and at most three after a point;
+// never negative, never beyond what the milliseconds of a run can reach.
+bool secondsOf(QString const &token, qint64 *ms)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,9})(?:\\.(\\d{1,3}))?$"));
+    const QRegularExpressionMatch match = form.match(token);
+    if (!match.hasMatch())
+        return false;
+    const QString fraction = match.captured(2).leftJustified(3, QLatin1Char('0'));
+    *ms = match.captured(1).toLongLong() * 1000 + fraction.toInt();
+    return true;
 }
 
 // "28:106" into the protocol and the offset.
 bool place(QString const &token, int *bufferId, int *offset)
 {
-    const int colon = token.indexOf(QLatin1Char(':'));
-    if (colon < 1)
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,5}):(\\d{1,5})$"));
+    const QRegularExpressionMatch match = form.match(token);
+    if (!match.hasMatch())
         return false;
-    bool idOk = false, offsetOk = false;
-    *bufferId = token.leftRef(colon).toInt(&idOk);
-    *offset = token.midRef(colon + 1).toInt(&offsetOk);
-    return idOk && offsetOk && *bufferId >= 0 && *offset >= 0;
+    *bufferId = match.captured(1).toInt();
+    *offset = match.captured(2).toInt();
+    return true;
 }
 
 } // namespace
@@ -51,6 +64,9 @@ void FrameLog::attach(SimulatorHost &host)
 {
     DecoderBox *box = &host.box();
     connect(&host, &SimulatorHost::frameSent, this, [this, box](qint64 ms, QByteArray const &frame) {
+        // A frame without bytes puts nothing on the bus.
+        if (frame.isEmpty())
+            return;
         Entry entry;
         entry.ms = ms;
         entry.protocolId = CanObj::id();
@@ -166,19 +182,16 @@ bool FrameLog::parseLine(QString const &text, int protocolId, Entry *entry, QStr
         *error = QStringLiteral("a time and TX or RX missing");
         return false;
     }
-    bool ok = false;
-    const double time = tokens.at(0).toDouble(&ok);
-    if (!ok || time < 0) {
-        *error = QStringLiteral("time %1 is not a number of seconds").arg(tokens.at(0));
+    if (!secondsOf(tokens.at(0), &parsed.ms)) {
+        *error = QStringLiteral("time %1 is not a number of seconds").arg(Scenario::excerpt(tokens.at(0)));
         return false;
     }
-    parsed.ms = qRound64(time * 1000);
     const QString direction = tokens.at(1);
     auto frameInto = [&tokens, error](QByteArray *frame) {
         for (int i = 2; i < tokens.size(); ++i) {
             char byte;
             if (!hexByte(tokens.at(i), &byte)) {
-                *error = QStringLiteral("%1 is not a byte in hex").arg(tokens.at(i));
+                *error = QStringLiteral("%1 is not a byte in hex").arg(Scenario::excerpt(tokens.at(i)));
                 return false;
             }
             frame->append(byte);
@@ -202,6 +215,10 @@ bool FrameLog::parseLine(QString const &text, int protocolId, Entry *entry, QStr
             return false;
         }
     } else if (direction == QLatin1String("TX")) {
+        if (tokens.size() < 3) {
+            *error = QStringLiteral("a TX line without the frame's bytes");
+            return false;
+        }
         if (!frameInto(&parsed.frame))
             return false;
     } else if (direction == QLatin1String("RX")) {
@@ -213,13 +230,13 @@ bool FrameLog::parseLine(QString const &text, int protocolId, Entry *entry, QStr
                 continue;
             if (bufferId < 0 || !hexByte(tokens.at(i), &byte)) {
                 *error = QStringLiteral("%1 is neither PROTOCOL:OFFSET nor a byte in hex after one")
-                             .arg(tokens.at(i));
+                             .arg(Scenario::excerpt(tokens.at(i)));
                 return false;
             }
             parsed.written.append(DecoderBox::WrittenByte{bufferId, offset++, quint8(byte)});
         }
     } else {
-        *error = QStringLiteral("direction %1 is none of TX, RX, RX-BAD, RX-NOISE").arg(tokens.at(1));
+        *error = QStringLiteral("direction %1 is none of TX, RX, RX-BAD, RX-NOISE").arg(Scenario::excerpt(tokens.at(1)));
         return false;
     }
     *entry = parsed;
@@ -287,7 +304,8 @@ bool FrameLog::load(QString const &file, QList<Entry> *entries, QString *error)
         *error = QStringLiteral("%1: can't read the frame log: %2").arg(file, input.errorString());
         return false;
     }
-    return parse(file, QString::fromUtf8(input.readAll()), entries, error);
+    QString text;
+    return Scenario::decode(file, input.readAll(), &text, error) && parse(file, text, entries, error);
 }
 
 bool FrameLog::replay(SimulatorHost &host, QString const &file, QString *error)

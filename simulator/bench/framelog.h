@@ -8,7 +8,7 @@
 // line, so that text tools and diffs work on it:
 //
 //   # protocol 28
-//       12.345 TX 2E A8 02 01 0A 22  # 28_2 "Treble" -> 10
+//       12.345 TX 2E A8 02 01 0A 22  # 28_2 "Treble" -> 1 (raw 10)
 //       12.396 RX 28:106 0A  # dataChanged()
 //
 // A time in seconds since the simulator started, the direction, the bytes

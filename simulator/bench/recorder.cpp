@@ -198,6 +198,7 @@ bool Recorder::start(QString const &file, QString *error)
     }
     m_lines.clear();
     m_frames.clear();
+    m_commandsSeen = HostSim::climateCommands().size();
     m_recording = true;
     m_commandDepth = 0;
     m_finishPending = m_callPending = m_inputAction = m_keyDown = false;
@@ -428,6 +429,11 @@ void Recorder::writeFrames()
     for (QByteArray const &frame : qAsConst(m_frames))
         write(QStringLiteral("expect frame ") + Scenario::hex(frame));
     m_frames.clear();
+    // The climate commands the action gave, in their order.
+    const auto commands = HostSim::climateCommands();
+    for (int i = qMin(m_commandsSeen, int(commands.size())); i < commands.size(); ++i)
+        write(QStringLiteral("expect command %1 %2").arg(commands.at(i).first, Scenario::quoted(commands.at(i).second)));
+    m_commandsSeen = commands.size();
 }
 
 void Recorder::finish()

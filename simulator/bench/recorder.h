@@ -86,7 +86,8 @@ private:
     void flush();
     // After an action: the frames it sent and what the screen shows.
     void finish();
-    // expect frame for each frame sent since the last.
+    // expect frame for each frame sent since the last, expect command for
+    // each climate command.
     void writeFrames();
     void finishLater();
     bool onScreen(QWidget *widget) const;
@@ -104,8 +105,10 @@ private:
     bool m_recording = false;
     State m_state;
     QElapsedTimer m_clock;
-    // Frames sent since the last action was written out.
+    // Frames sent since the last action was written out, and the climate
+    // commands written out so far.
     QList<QByteArray> m_frames;
+    int m_commandsSeen = 0;
     qint64 m_actionEnd = 0;
     qint64 m_lastEvent = -1;
     // A scenario command is running; its input comes through the events.

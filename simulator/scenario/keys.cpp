@@ -21,6 +21,14 @@ QList<Key> const &all()
         {"remote-left", 0x140000C, nullptr},
         {"remote-right", 0x140000D, nullptr},
         {"remote-back", 0x140000F, nullptr},
+        // The desktop keyboard's, as a person presses them on the window's
+        // screen.
+        {"arrow-up", Qt::Key_Up, nullptr},
+        {"arrow-down", Qt::Key_Down, nullptr},
+        {"arrow-left", Qt::Key_Left, nullptr},
+        {"arrow-right", Qt::Key_Right, nullptr},
+        {"return", Qt::Key_Return, nullptr},
+        {"escape", Qt::Key_Escape, nullptr},
     };
     return keys;
 }

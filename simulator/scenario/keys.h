@@ -16,8 +16,9 @@ struct Key
     char const *label;   // the text of the window's button; null: no button
 };
 
-// The panel's keys (enter, back, arrows, next, previous), then the remote
-// control's ("remote-enter" and the like).
+// The panel's keys (enter, back, arrows, next, previous), the remote
+// control's ("remote-enter" and the like), then the desktop keyboard's
+// ("arrow-down", "return", "escape").
 QList<Key> const &all();
 // The code of a key by its name, or -1.
 int code(QString const &name);

@@ -100,12 +100,20 @@ struct Script
 };
 
 // Parses a whole scenario. False at the first malformed line, with
-// "FILE:LINE: malformed line "...": reason" in *error.
+// "FILE:LINE: malformed line "...": reason" in *error, or with "FILE: no
+// commands" for a scenario without any.
 bool parse(QString const &file, QString const &source, Script *script, QString *error);
 // Reads a scenario file, or standard input for "-". *name is what
 // messages call it ("<stdin>" for standard input). False, with the reason in
 // *error, when it can't be read.
-bool read(QString const &file, QString *name, QString *source, QString *error);
+bool read(QString const &file, QString *name, QByteArray *bytes, QString *error);
+// The text of a file that must be text (a scenario, a frame log): UTF-8
+// without NUL or other control bytes but tab. False, with "FILE:LINE: not
+// text: reason" in *error, at the first line that isn't.
+bool decode(QString const &file, QByteArray const &bytes, QString *text, QString *error);
+// A line, or a word of it, as a message quotes it: at most 120 characters,
+// control characters escaped.
+QString excerpt(QString const &text);
 
 // The texts that the language uses for frames: "2E 90 02 51 00 8E".
 QString hex(QByteArray const &bytes);

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QHash>
+#include <QTextCodec>
 
 #include <cstdio>
 #include <limits>
@@ -409,6 +410,11 @@ bool parseTap(Reader &in, Command *c)
                     && in.numberInto(QStringLiteral("y"), IntMin, IntMax, &c->numbers) && in.end();
         }
     }
+    // A word with more after it is none of the forms above: a misspelt
+    // one, more likely than an objectName with stray words after it.
+    if (!first.quoted && more)
+        return in.fail(QStringLiteral("tap %1 ...: %1 is not one of title|row|bar|button|entry|at "
+                                      "(an objectName stands alone)").arg(excerpt(first.text)));
     c->kind = Kind::TapObject;
     c->name = first.text;
     return in.end();
@@ -858,16 +864,21 @@ bool parse(QString const &file, QString const &source, Script *script, QString *
         QString reason;
         if (!parseLine(lines.at(i), &command, &isCommand, &reason)) {
             *error = QStringLiteral("%1:%2: malformed line \"%3\": %4")
-                         .arg(file).arg(i + 1).arg(lines.at(i).trimmed(), reason);
+                         .arg(file).arg(i + 1).arg(excerpt(lines.at(i).trimmed()), excerpt(reason));
             return false;
         }
         if (isCommand)
             script->commands.append(command);
     }
+    // A scenario that runs nothing would pass without checking anything.
+    if (script->commands.isEmpty()) {
+        *error = QStringLiteral("%1: no commands").arg(file);
+        return false;
+    }
     return true;
 }
 
-bool read(QString const &file, QString *name, QString *source, QString *error)
+bool read(QString const &file, QString *name, QByteArray *bytes, QString *error)
 {
     QFile input;
     bool opened;
@@ -883,8 +894,51 @@ bool read(QString const &file, QString *name, QString *source, QString *error)
         *error = QStringLiteral("%1: can't read the scenario: %2").arg(*name, input.errorString());
         return false;
     }
-    *source = QString::fromUtf8(input.readAll());
+    *bytes = input.readAll();
     return true;
+}
+
+bool decode(QString const &file, QByteArray const &bytes, QString *text, QString *error)
+{
+    QTextCodec *utf8 = QTextCodec::codecForName("UTF-8");
+    QStringList lines;
+    const QList<QByteArray> raw = bytes.split('\n');
+    for (int i = 0; i < raw.size(); ++i) {
+        QTextCodec::ConverterState state;
+        const QString line = utf8->toUnicode(raw.at(i).constData(), raw.at(i).size(), &state);
+        QString reason;
+        if (state.invalidChars > 0 || state.remainingChars > 0)
+            reason = QStringLiteral("invalid UTF-8");
+        for (int c = 0; reason.isEmpty() && c < line.size(); ++c) {
+            const ushort code = line.at(c).unicode();
+            if (code == 0)
+                reason = QStringLiteral("a NUL byte");
+            else if ((code < 0x20 && code != '\t' && code != '\r') || code == 0x7F)
+                reason = QStringLiteral("the control byte 0x%1").arg(code, 2, 16, QLatin1Char('0'));
+        }
+        if (!reason.isEmpty()) {
+            *error = QStringLiteral("%1:%2: not text: %3").arg(file).arg(i + 1).arg(reason);
+            return false;
+        }
+        lines << line;
+    }
+    *text = lines.join(QLatin1Char('\n'));
+    return true;
+}
+
+QString excerpt(QString const &text)
+{
+    constexpr int MaxQuoted = 120;
+    QString quoted;
+    for (QChar c : text.left(MaxQuoted)) {
+        if (c.unicode() < 0x20 || c.unicode() == 0x7F)
+            quoted += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            quoted += c;
+    }
+    if (text.size() > MaxQuoted)
+        quoted += QStringLiteral("...");
+    return quoted;
 }
 
 } // namespace Scenario

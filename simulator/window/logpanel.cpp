@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTime>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -24,6 +23,8 @@ constexpr int PollMs = 200;
 // What the panel keeps of a long run: the newest frames and debug lines.
 constexpr int MaxFrames = 5000;
 constexpr int MaxDebugLines = 5000;
+// The frame log shows at least these many rows, also on a small desktop.
+constexpr int MinFrameRows = 8;
 
 enum Column { TimeColumn, DirectionColumn, BytesColumn, FamilyColumn, CommandColumn, MeaningColumn };
 
@@ -67,6 +68,7 @@ LogPanel::LogPanel(SimulatorHost &host, QWidget *parent)
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     m_frames->setFont(fixed);
     m_frames->header()->setStretchLastSection(true);
+    fitColumns();
     m_debug->setReadOnly(true);
     m_debug->setFont(fixed);
     m_debug->setMaximumBlockCount(MaxDebugLines);
@@ -81,6 +83,33 @@ LogPanel::LogPanel(SimulatorHost &host, QWidget *parent)
     m_log.attach(host);
     connect(&m_log, &FrameLog::appended, this, &LogPanel::appendEntry);
     startTimer(PollMs);
+}
+
+// The columns as wide as their texts, the meaning the rest, each one
+// widened by dragging its edge (the log then scrolls sideways); the frame
+// log at least MinFrameRows rows high.
+void LogPanel::fitColumns()
+{
+    const auto fit = [](QTreeWidget *tree, int column, QString const &sample) {
+        const QFontMetrics metrics = tree->fontMetrics();
+        const int padding = 2 * metrics.horizontalAdvance(QLatin1Char(' '));
+        tree->setColumnWidth(column, qMax(metrics.horizontalAdvance(sample),
+                                          tree->header()->fontMetrics().horizontalAdvance(tree->headerItem()->text(column)))
+                                         + 2 * padding);
+    };
+    fit(m_frames, TimeColumn, QStringLiteral("00000.000"));
+    fit(m_frames, DirectionColumn, QStringLiteral("TX"));
+    // A 2E frame of eight bytes.
+    fit(m_frames, BytesColumn, QStringLiteral("2E A8 04 01 0A 00 00 4A"));
+    fit(m_frames, FamilyColumn, QStringLiteral("FD"));
+    fit(m_frames, CommandColumn, QStringLiteral("A8"));
+    m_frames->header()->setSectionResizeMode(QHeaderView::Interactive);
+    m_frames->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_frames->setMinimumHeight(m_frames->header()->sizeHint().height() + MinFrameRows * (m_frames->fontMetrics().height() + 4)
+                               + 2 * m_frames->frameWidth());
+    fit(m_commands, 0, QStringLiteral("00000.000"));
+    // Keys such as "AirTemperatureUnit".
+    fit(m_commands, 1, QStringLiteral("AirConditionerTemperature"));
 }
 
 QWidget *LogPanel::makeFrameTab()
@@ -272,10 +301,14 @@ void LogPanel::poll()
     const auto commands = HostSim::climateCommands();
     if (commands.size() < m_commandsShown)
         m_commandsShown = 0;
-    const QString now = QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz"));
+    // Seconds since the start, as the frame log counts them.
+    const QString now = FrameLog::timeText(m_host.elapsed());
     for (int i = m_commandsShown; i < commands.size(); ++i) {
         auto *item = new QTreeWidgetItem(m_commands, {now, commands.at(i).first, commands.at(i).second});
         m_commands->scrollToItem(item);
+        // A key longer than its column widens it.
+        if (m_commands->fontMetrics().horizontalAdvance(item->text(1)) >= m_commands->columnWidth(1))
+            m_commands->resizeColumnToContents(1);
     }
     m_commandsShown = commands.size();
 

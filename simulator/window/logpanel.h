@@ -47,6 +47,7 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    void fitColumns();
     QWidget *makeFrameTab();
     void appendEntry(FrameLog::Entry const &entry);
     bool accepts(QTreeWidgetItem const *item) const;

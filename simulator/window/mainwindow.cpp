@@ -31,6 +31,8 @@ constexpr int MinZoom = 50;
 // the status bar and a title bar's worth for the desktop's frame.
 constexpr int WindowExtraWidth = 40;
 constexpr int WindowExtraHeight = 130;
+// What a desktop's frame takes above a window.
+constexpr int TitleBarHeight = 30;
 // How often the window title follows the protocol.
 constexpr int TitleMs = 500;
 
@@ -93,6 +95,8 @@ MainWindow::MainWindow(SimulatorHost &host, int zoom, QWidget *parent)
     panel->addWidget(logs);
     panel->setStretchFactor(0, 3);
     panel->setStretchFactor(1, 2);
+    // Neither the panels nor the logs can be pushed out of sight.
+    panel->setChildrenCollapsible(false);
     layout->addWidget(panel);
     setCentralWidget(central);
 
@@ -123,6 +127,11 @@ int MainWindow::fittingZoom(QSize const &desktop)
 int MainWindow::zoom() const
 {
     return m_zoom;
+}
+
+void MainWindow::fitDesktop(QSize const &available)
+{
+    resize(qMin(sizeHint().width(), available.width()), available.height() - TitleBarHeight);
 }
 
 // The head unit's screen, at its real size or drawn scaled by the zoom. A
@@ -190,11 +199,16 @@ QWidget *MainWindow::makeCommandLine()
     return line;
 }
 
-void MainWindow::startDemoCar(int protocolId)
+void MainWindow::startDemoCar(int protocolId, bool withData)
 {
-    const Scenario::Result result = Demo::startCar(m_host, protocolId);
-    if (result.status != Scenario::Passed)
-        showStatus(result.message, true);
+    if (withData) {
+        const Scenario::Result result = Demo::startCar(m_host, protocolId);
+        if (result.status != Scenario::Passed)
+            showStatus(result.message, true);
+    } else {
+        Demo::selectProtocol(m_host, protocolId);
+    }
+    m_car->setSampleData(withData);
     reloadPanels();
 }
 

@@ -31,9 +31,15 @@ public:
     // window fits a desktop of the given size.
     static int fittingZoom(QSize const &desktop);
     int zoom() const;
+    // Takes the height of a desktop whose free area is available, less a
+    // title bar's worth, so that the panels and logs get the room the
+    // screen leaves; never wider than the desktop.
+    void fitDesktop(QSize const &available);
 
-    // Selects the protocol; on the demo car's protocol its data come first.
-    void startDemoCar(int protocolId);
+    // Selects the protocol; with data, the demo car's data or the
+    // catalogue's sample data come first, and the Car panel gives sample
+    // data to the protocols picked later.
+    void startDemoCar(int protocolId, bool withData = true);
     // Runs a scenario in the window; the result goes to the status bar and
     // to standard error. Returns the scenario's exit status.
     int runScenario(Scenario::Script const &script);

@@ -65,8 +65,13 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     , m_rightDriver(new QCheckBox(tr("Right-hand drive"), this))
     , m_wallpaper(new QCheckBox(tr("Wallpaper"), this))
     , m_box(new QCheckBox(tr("Decoder box answers"), this))
+    , m_sampleData(new QCheckBox(tr("Sample data"), this))
     , m_languages(new QComboBox(this))
 {
+    m_sampleData->setObjectName(QStringLiteral("sampleData"));
+    m_sampleData->setChecked(true);
+    m_sampleData->setToolTip(tr("A protocol picked gets the catalogue's sample data, as --protocol gives it; "
+                                "off, its buffer stays as it is (zeroed at first)"));
     m_box->setObjectName(QStringLiteral("decoderBox"));
     m_protocols->setObjectName(QStringLiteral("protocolPicker"));
     m_family->setObjectName(QStringLiteral("pageStackName"));
@@ -91,6 +96,7 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     m_protocols->view()->setMinimumWidth(m_protocols->view()->sizeHintForColumn(0));
     vehicleForm->addRow(tr("Protocol"), m_protocols);
     vehicleForm->addRow(tr("Page stack"), m_family);
+    vehicleForm->addRow(m_sampleData);
     vehicleForm->addRow(m_rightDriver);
     vehicleForm->addRow(m_wallpaper);
     vehicleForm->addRow(m_box);
@@ -160,7 +166,9 @@ CarPanel::CarPanel(SimulatorHost &host, QWidget *parent)
     setData->setToolTip(tr("setData(), the framework's signal to refresh the page in front"));
     connect(setData, &QPushButton::clicked, this, [this] { m_host.call(QStringLiteral("setData"), {QVariant()}); });
     viewGrid->addWidget(setData, 2, 1);
-    layout->addWidget(views);
+    // The screens' buttons first: they are what a person reaches for most,
+    // and stay in sight on a small desktop.
+    layout->insertWidget(0, views);
     layout->addWidget(new LinkPanel(m_host, this));
     layout->addStretch(1);
     load();
@@ -177,13 +185,35 @@ void CarPanel::selectProtocol(int protocolId)
             continue;
         reopen << (view->objectName() == QLatin1String("exDialogView") ? QStringLiteral("showExViewDialogView")
                                                                        : QStringLiteral("showExView"));
-        HostSim::pressBarButton(view->findChild<BaseBar *>(QStringLiteral("baseBar")), QStringLiteral("home"));
+        // A tap as a person's finger gives it, so that a recording says the
+        // view was left, and its replay doesn't open the new protocol's
+        // pages on the old view.
+        auto *bar = view->findChild<BaseBar *>(QStringLiteral("baseBar"));
+        QWidget *home = bar ? bar->findChild<QWidget *>(QStringLiteral("home")) : nullptr;
+        if (home && home->isVisible())
+            m_host.input().tapWidget(home);
+        else
+            HostSim::pressBarButton(bar, QStringLiteral("home"));
     }
     EventPump::settle();
-    Demo::selectProtocol(m_host, protocolId);
+    // A protocol gets its sample data when it is first picked; picked again,
+    // it keeps what was set on it since.
+    if (m_sampleData->isChecked() && !m_sampled.contains(protocolId)) {
+        m_sampled.insert(protocolId);
+        Demo::startCar(m_host, protocolId);
+    } else {
+        Demo::selectProtocol(m_host, protocolId);
+    }
     for (QString const &operation : qAsConst(reopen))
         m_host.call(operation);
     showProtocol(protocolId);
+}
+
+void CarPanel::setSampleData(bool on)
+{
+    m_sampleData->setChecked(on);
+    // The car started with: its data are in.
+    m_sampled.insert(CanObj::id());
 }
 
 void CarPanel::load()

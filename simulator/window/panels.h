@@ -11,6 +11,7 @@
 
 #include <QList>
 #include <QPair>
+#include <QSet>
 #include <QWidget>
 
 class QCheckBox;
@@ -29,8 +30,13 @@ class CarPanel : public QWidget
 public:
     explicit CarPanel(SimulatorHost &host, QWidget *parent = nullptr);
 
-    // Selects the protocol and tells the root.
+    // Selects the protocol and tells the root; with sample data on, a
+    // protocol picked for the first time first gets the data that
+    // --protocol gives.
     void selectProtocol(int protocolId);
+    // Sample data on or off for the protocols picked from now on; the
+    // current one counts as picked.
+    void setSampleData(bool on);
 
 public slots:
     void load();
@@ -44,6 +50,8 @@ private:
     QCheckBox *m_rightDriver;
     QCheckBox *m_wallpaper;
     QCheckBox *m_box;
+    QCheckBox *m_sampleData;
+    QSet<int> m_sampled;
     QComboBox *m_languages;
     int m_shownProtocol = -1;
 };

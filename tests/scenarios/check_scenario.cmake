@@ -8,7 +8,8 @@
 #   # stdout: TEXT     a text that standard output must contain (repeatable)
 #   # stdin            the scenario comes on standard input
 #   # args: OPTIONS    more options for the simulator, e.g. --screenshot FILE;
-#                      {script} stands for this file's path
+#                      {script} stands for this file's path, {dir} for its
+#                      folder
 #   # alone            the options alone, without --script: for the options
 #                      that run no scenario (the file is then only its header)
 # Called with -DSIMULATOR=... -DSCRIPT=... -DWORK_DIR=...
@@ -38,7 +39,9 @@ foreach(line IN LISTS header)
     elseif(line MATCHES "^# alone$")
         set(alone TRUE)
     elseif(line MATCHES "^# args: (.+)$")
+        get_filename_component(script_dir "${SCRIPT}" DIRECTORY)
         string(REPLACE "{script}" "${SCRIPT}" options "${CMAKE_MATCH_1}")
+        string(REPLACE "{dir}" "${script_dir}" options "${options}")
         separate_arguments(more UNIX_COMMAND "${options}")
         list(APPEND extra_args ${more})
     endif()

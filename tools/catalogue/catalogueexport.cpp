@@ -124,6 +124,8 @@ public:
             data.setByte(w.offset, quint8((data.byte(w.offset) & ~w.mask) | (w.value & w.mask)));
     }
     int shown(int row) const { return m_model->getListData().at(row).value; }
+    // The row's value as the screen shows it: with its unit, or the option's text.
+    QString shownText(int row) const { return m_model->index(row, 0).data(DisplayValueRole).toString(); }
     // The page reads the buffer anew.
     void refresh() { m_page->ondataChanged(); }
 
@@ -392,6 +394,8 @@ QJsonObject exportRow(PageRunner &runner, int index, ListData const &data, Row c
             step["writes"] = toJson(*writes);
             shows = runner.shows(index, *writes, value);
             step["shows"] = shows;
+            if (shows)
+                step["text"] = runner.shownText(index);
             // Two values that send the same frame can't both be answered.
             const QString pattern = step["frame"].toString() + step["care"].toString();
             if (byPattern.contains(pattern)) {
