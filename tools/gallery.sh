@@ -38,6 +38,12 @@ diff_dir=$build/gallery-diff
 # builds render.
 unset CARCONTROL_PLUGIN_DIR CARCONTROL_RESOURCE_ROOT CARCONTROL_CATALOGUE_FILE CARCONTROL_STORAGE_DIR
 export QT_QPA_PLATFORM=offscreen
+# A machine without a runtime directory: a private one keeps Qt from warning.
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+    XDG_RUNTIME_DIR=$(mktemp -d)
+    export XDG_RUNTIME_DIR
+    trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
+fi
 
 languages() {
     echo en
