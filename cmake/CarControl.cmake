@@ -36,9 +36,12 @@ endfunction()
 # first call. tools/plugincheck.py holds the module to this.
 function(carcontrol_head_unit_module target)
     carcontrol_plugin_code(${target})
+    # No run path even in the build tree, where CMake would name the
+    # directory of a Qt outside the system's (a cross build's sysroot).
     set_target_properties(${target} PROPERTIES
         PREFIX "lib"
-        LIBRARY_OUTPUT_DIRECTORY "${CARCONTROL_PLUGIN_DIR}")
+        LIBRARY_OUTPUT_DIRECTORY "${CARCONTROL_PLUGIN_DIR}"
+        SKIP_BUILD_RPATH ON)
     target_link_options(${target} PRIVATE "LINKER:-z,now")
 endfunction()
 

@@ -3,6 +3,7 @@
 #include "hoststate.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonObject>
 #include <QPluginLoader>
 
@@ -50,7 +51,8 @@ QObject *ThemeBase::getThemeInstance()
             file = findReversePlugin();
         if (file.isEmpty())
             return nullptr;
-        host.reverseLoader.reset(new QPluginLoader(file));
+        // Qt's loader looks for a relative name in its library paths.
+        host.reverseLoader.reset(new QPluginLoader(QFileInfo(file).absoluteFilePath()));
     }
     // The loader keeps the library loaded; the instance it hands out belongs
     // to the caller, and once deleted the next call makes a new one.

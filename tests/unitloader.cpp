@@ -71,7 +71,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     HostSim::screen()->show();
 
-    QPluginLoader loader(QDir(QString::fromLocal8Bit(argv[1])).filePath(QStringLiteral("libcarcontrol.so")));
+    QPluginLoader loader(QDir(QString::fromLocal8Bit(argv[1])).absoluteFilePath(QStringLiteral("libcarcontrol.so")));
     const QString iid = loader.metaData().value(QStringLiteral("IID")).toString();
     if (iid != QLatin1String("cantheme/0.1"))
         return fail(QStringLiteral("%1: interface \"%2\", not \"cantheme/0.1\" (%3)")

@@ -71,7 +71,8 @@ bool SimulatorHost::load(QString const &pluginFile, QString *error)
                                                                           : QStringLiteral("not a file"));
         return false;
     }
-    m_loader.setFileName(pluginFile);
+    // Qt's loader looks for a relative name in its library paths, not here.
+    m_loader.setFileName(file.absoluteFilePath());
     // The framework reads the metadata before it loads the library.
     const QJsonObject meta = m_loader.metaData();
     if (meta.isEmpty()) {
