@@ -72,7 +72,7 @@ bench)
     # recommended for --language zh_CN.
     man="$root/usr/share/man/man1/headunit-sim.1.gz"
     for option in record frames version list-protocols clock zoom box-coverage; do
-        gzip -dc "$man" | grep -qF -- "\\-\\-$option" || fail "the manual page lacks --$option"
+        gzip -dc "$man" | sed 's/\\-/-/g' | grep -qF -- "--$option" || fail "the manual page lacks --$option"
     done
     gzip -dc "$man" | grep -q '^.SH EXIT STATUS' || fail "the manual page lacks the exit status"
     doc="$root/usr/share/doc/carcontrol-bench"

@@ -275,6 +275,9 @@ void TestSimulatorWindow::bufferEditorAndFrameLog()
     // A tap on a row's arrow: the frame in the log, with its family and
     // command.
     auto *frames = m_window->findChild<QTreeWidget *>("frameLog");
+    // The box's answers to the page's requests come after its delay: they
+    // are in before the count starts, however slowly the machine runs.
+    EventPump::wait(2 * m_host->box().delay());
     const int before = frames->topLevelItemCount();
     QVERIFY2(m_host->input().tapRow(1, UserInput::RightZone, &missing), qPrintable(missing));
     EventPump::settle();
